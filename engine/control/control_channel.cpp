@@ -1,0 +1,163 @@
+#include "control_channel.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <mutex>
+#include <set>
+#include <thread>
+
+#ifdef _WIN32
+#error "control_channel: the Windows console reader is not written yet"
+#else
+#include <poll.h>
+#include <unistd.h>
+#endif
+
+namespace zuvo {
+
+namespace {
+
+bool parseAddress(const std::string& text, std::uintptr_t& out)
+{
+    unsigned long long value = 0;
+    const char* first = text.data();
+    const char* last = first + text.size();
+    auto [ptr, ec] = std::from_chars(first, last, value);
+    if (ec != std::errc() || ptr != last || value == 0)
+        return false;
+    out = static_cast<std::uintptr_t>(value);
+    return true;
+}
+
+std::string trimmed(std::string_view s)
+{
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+    while (!s.empty() && isBlank(s.front())) s.remove_prefix(1);
+    while (!s.empty() && isBlank(s.back())) s.remove_suffix(1);
+    return std::string(s);
+}
+
+} // namespace
+
+InprocHostOptions takeInprocHostOptions(std::vector<std::string>& args)
+{
+    InprocHostOptions opts;
+    std::vector<std::string> kept;
+    kept.reserve(args.size());
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (i > 0 && a == "-inproc-host") {
+            opts.host = true;
+        } else if (i > 0 && (a == "-inproc-ctl" || a == "-inproc-ctl-fn")) {
+            std::uintptr_t addr = 0;
+            if (i + 1 < args.size() && parseAddress(args[i + 1], addr)) {
+                if (a == "-inproc-ctl")
+                    opts.queue = reinterpret_cast<void*>(addr);
+                else
+                    opts.popLine = reinterpret_cast<PopLineFn>(addr);
+                ++i;
+            } else {
+                opts.malformed = true;
+            }
+        } else {
+            kept.push_back(a);
+        }
+    }
+    args.swap(kept);
+    return opts;
+}
+
+struct ControlListener::State {
+    std::mutex mutex;
+    std::set<std::string, std::less<>> seen;
+    std::atomic<bool> quit{false};
+    LineHandler onLine;
+
+    void deliver(std::string_view raw)
+    {
+        std::string line = trimmed(raw);
+        if (line.empty())
+            return; // "stop\n" + newline from a host arrives as an empty second line
+        {
+            std::lock_guard lock(mutex);
+            seen.insert(line);
+        }
+        if (onLine)
+            onLine(line);
+    }
+};
+
+ControlListener::ControlListener(const InprocHostOptions& options)
+    : state_(std::make_shared<State>()), options_(options)
+{
+}
+
+ControlListener::~ControlListener()
+{
+    state_->quit = true;
+    // A queue reader owns a reference to the state and wakes when the host
+    // closes its queue; a stdin reader notices `quit` within one poll
+    // interval, and is joined so it never reads a descriptor the host has
+    // already restored.
+    if (stdinThread_.joinable())
+        stdinThread_.join();
+}
+
+void ControlListener::start(LineHandler onLine)
+{
+    if (started_)
+        return;
+    started_ = true;
+    state_->onLine = std::move(onLine);
+
+    if (options_.hasQueue()) {
+        std::thread([state = state_, queue = options_.queue, pop = options_.popLine] {
+            std::vector<char> buf(4096);
+            while (!state->quit) {
+                const int n = pop(queue, buf.data(), static_cast<int>(buf.size()));
+                if (n <= 0)
+                    break; // closed and drained: no more commands
+                state->deliver(std::string_view(buf.data(), static_cast<std::size_t>(n)));
+            }
+        }).detach();
+        return;
+    }
+
+    if (options_.host)
+        return; // in-process without a queue: the host gave us no channel, and fd 0 is not ours
+
+    stdinThread_ = std::thread([state = state_] {
+        std::string pending;
+        char chunk[512];
+        while (!state->quit) {
+            pollfd pfd{0, POLLIN, 0};
+            const int ready = ::poll(&pfd, 1, 100);
+            if (ready < 0 && errno == EINTR)
+                continue;
+            if (ready <= 0)
+                continue;
+            const ssize_t n = ::read(0, chunk, sizeof chunk);
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n <= 0)
+                break; // end of input is not a stop request
+            pending.append(chunk, static_cast<std::size_t>(n));
+            std::size_t pos;
+            while ((pos = pending.find('\n')) != std::string::npos) {
+                state->deliver(std::string_view(pending).substr(0, pos));
+                pending.erase(0, pos + 1);
+            }
+        }
+        if (!pending.empty() && !state->quit)
+            state->deliver(pending);
+    });
+}
+
+bool ControlListener::received(std::string_view word) const
+{
+    std::lock_guard lock(state_->mutex);
+    return state_->seen.find(word) != state_->seen.end();
+}
+
+} // namespace zuvo

@@ -9,6 +9,7 @@
 #include "console_attach.h"
 #include "engine_main.h"
 #include "mainwindow.h"
+#include "quit_on_signal.h"
 #include "screenshot.h"
 #include "startup_env.h"
 
@@ -43,6 +44,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("ZuvoAudioTools"));
     QCoreApplication::setOrganizationName(QStringLiteral("ZUVO"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/zuvo.png")));
+    quitEventLoopOnTerminationSignals();
 
     auto window = std::make_unique<MainWindow>();
     window->ensureEngineLogPath();

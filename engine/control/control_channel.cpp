@@ -72,6 +72,10 @@ struct ControlListener::State {
     std::mutex mutex;
     std::set<std::string, std::less<>> seen;
     std::atomic<bool> quit{false};
+    // Held while the handler runs, so that once the listener is gone no
+    // handler call is in progress or still to come: a detached queue reader
+    // can outlive the engine objects the handler refers to.
+    std::mutex handlerMutex;
     LineHandler onLine;
 
     void deliver(std::string_view raw)
@@ -83,8 +87,16 @@ struct ControlListener::State {
             std::lock_guard lock(mutex);
             seen.insert(line);
         }
-        if (onLine)
+        std::lock_guard lock(handlerMutex);
+        if (onLine && !quit)
             onLine(line);
+    }
+
+    void shutDown()
+    {
+        std::lock_guard lock(handlerMutex);
+        quit = true;
+        onLine = nullptr;
     }
 };
 
@@ -95,7 +107,7 @@ ControlListener::ControlListener(const InprocHostOptions& options)
 
 ControlListener::~ControlListener()
 {
-    state_->quit = true;
+    state_->shutDown();
     // A queue reader owns a reference to the state and wakes when the host
     // closes its queue; a stdin reader notices `quit` within one poll
     // interval, and is joined so it never reads a descriptor the host has
@@ -124,8 +136,9 @@ void ControlListener::start(LineHandler onLine)
         return;
     }
 
-    if (options_.host)
-        return; // in-process without a queue: the host gave us no channel, and fd 0 is not ours
+    if (options_.host && options_.malformed)
+        return; // the host meant to give a queue and failed: fd 0 is not a channel then
+    // A host without a queue puts its control pipe on descriptor 0.
 
     stdinThread_ = std::thread([state = state_] {
         std::string pending;
@@ -133,9 +146,12 @@ void ControlListener::start(LineHandler onLine)
         while (!state->quit) {
             pollfd pfd{0, POLLIN, 0};
             const int ready = ::poll(&pfd, 1, 100);
-            if (ready < 0 && errno == EINTR)
-                continue;
-            if (ready <= 0)
+            if (ready < 0) {
+                if (errno == EINTR)
+                    continue;
+                break; // a failing poll would otherwise spin
+            }
+            if (ready == 0)
                 continue;
             const ssize_t n = ::read(0, chunk, sizeof chunk);
             if (n < 0 && errno == EINTR)

@@ -8,7 +8,14 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#ifdef _WIN32
+#include <io.h>
+#define dup _dup
+#define dup2 _dup2
+#define close _close
+#else
 #include <unistd.h>
+#endif
 
 Q_DECLARE_METATYPE(ConversionSettings)
 

@@ -1,0 +1,76 @@
+#include "cli/help.h"
+
+#include "dsp/dsd_pipeline.h"
+
+namespace zuvo::cli {
+
+void printHelp(std::FILE* out, const char* version)
+{
+    std::fprintf(out,
+        "ZuvoEngine %s - PCM to DSD conversion engine\n"
+        "\n"
+        "Usage:\n"
+        "  ZuvoEngine [options] -i INPUT OUTPUT.dsf|OUTPUT.dff      PCM to DSD\n"
+        "  ZuvoEngine --reverse -i IN.dsf [-i IN2.dsf ...] OUT.wav [--format flac]\n"
+        "  ZuvoEngine --dxd [--dxd-samplerate N] -i INPUT OUT.wav|OUT.w64|OUT.flac\n"
+        "\n"
+        "Inputs: anything libsndfile reads (WAV incl. extensible/RF64/W64, FLAC, AIFF, CAF, ...),\n"
+        "  16/24/32-bit integer or 32/64-bit float, 1-8 channels, 44.1 and 48 kHz families up to 384 kHz.\n"
+        "  Not supported: .m4a .mp4 .ape .wv .tta .wsd .iso .dst.\n"
+        "\n"
+        "DSD rate and filters:\n"
+        "  --oversampling N       DSD rate as a multiple of 44100 Hz: 64 (default), 128, ... 8192\n"
+        "  --taps N               interpolation filter length, 0 = automatic\n"
+        "  --passband-cutoff HZ   --stopband-cutoff HZ   0 = automatic\n"
+        "  --stopgain-alpha DB    stop-band attenuation, 0 = automatic\n"
+        "  --high-bandwidth       wider pass band\n"
+        "  --algorithm            Remez design (with --maxiterations N, --griddensity N)\n"
+        "  --window-type NAME     window design: kaiser blackman flattop bartlett hamming hanning (--beta X)\n"
+        "  --minphase             minimum-phase design\n"
+        "  --filter-type T        standard (default), slow, minphase\n"
+        "  --unpredistortion      no droop compensation of the interpolation chain\n"
+        "Modulator (one of):\n"
+        "  --sos-ef (default), --order N (single loop), --cifb N, --mash [N]\n"
+        "Gain:\n"
+        "  --abs X | --absdb DB   input gain, linear or in dB; automatic headroom when absent\n"
+        "Tags (DSF: ID3v2; DFF: DIIN/COMT and ID3):\n"
+        "  --artist T --title T --album T --genre T --year T --comment T --track N (1-998)\n"
+        "  --metadata-from-input  fill empty tags from the input's own tags\n"
+        "Reverse (DSD to PCM, inputs DSF or DFF):\n"
+        "  --reverse -i IN ...    several inputs of one format are joined\n"
+        "  --format flac          FLAC output (else by extension: .wav, .w64, .flac)\n"
+        "  --sampling N           output rate (default: see below)\n"
+        "  --bit 16|24|32         integer sample size (default 24)   --float  32-bit float\n"
+        "  --lowpass HZ           low-pass corner of the decimator\n",
+        version);
+    std::fprintf(out, "  Default output rate per DSD rate:");
+    for (int m = 64; m <= 512; m *= 2)
+        std::fprintf(out, " DSD%d -> %d Hz%s", m, dsp::reverseDefaultRate(m * dsp::kDsdBaseRate), m < 512 ? "," : "\n");
+    std::fprintf(out,
+        "DXD (PCM to high-rate PCM):\n"
+        "  --dxd                  resample to 352800 Hz (or --dxd-samplerate N), 24-bit unless --bit/--float\n"
+        "Run and report:\n"
+        "  --gui                  progress as '[PROGRESS] 12.3' lines on standard output\n"
+        "  --log-file PATH        append a detailed log to PATH\n"
+        "  --log fir|ns|freq|all  put the filter design summary on standard error too\n"
+        "  --verbose              more detail on standard error\n"
+        "  --report, --peak, --rms  peak and RMS of every channel at the end\n"
+        "  --no-dynamic-range     accepted (no dynamic-range section is computed)\n"
+        "  --swap-channels        swap the first two channels\n"
+        "  --forcechannels        accepted (the input's channel count is always kept)\n"
+        "  -pdfrp                 accepted with a warning: this build makes no PDF report\n"
+        "  --version, --help, --list-devices\n"
+        "Control: the line 'stop' on standard input (or the host's control queue) ends the run;\n"
+        "  the partial output is finalised and stays valid.\n"
+        "\n"
+        "Options for effects, repair, loudness, channel re-mapping, DST, OpenCL and recording are\n"
+        "refused by this version (exit code 2), all of them named in one message.\n"
+        "\n"
+        "Exit codes:\n"
+        "  0    done\n"
+        "  1    processing failure (unreadable input, write error, disk full); the output is removed\n"
+        "  2    usage error (unknown or unsupported option, bad value, filter design refused)\n"
+        "  195  stopped on request; the partial output is a valid file\n");
+}
+
+} // namespace zuvo::cli

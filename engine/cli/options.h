@@ -1,0 +1,70 @@
+#pragma once
+// The engine's command line as a value: what to do, with which design and
+// tags. Parsing never stops at the first problem; it collects every bad
+// value and every option this version does not implement, so one run tells
+// the user everything at once, before any output exists.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "dsp/dsd_pipeline.h"
+#include "io/tags.h"
+
+namespace zuvo::cli {
+
+enum class Mode { Forward, Reverse, Dxd };
+
+struct EngineOptions {
+    Mode mode = Mode::Forward;
+    bool showHelp = false;
+    bool showVersion = false;
+    bool listDevices = false;
+
+    std::vector<std::string> inputs;
+    std::string output;
+
+    io::Tags tags;
+    bool metadataFromInput = false;
+
+    bool gui = false;
+    bool verbose = false;
+    std::string logFile;
+    std::vector<std::string> logTopics; // fir, ns, freq, all
+    bool pdfReportAsked = false;        // no PDF report in this build: warn only
+    bool report = false;                // per-channel level summary at the end
+    bool reportPeak = false;
+    bool reportRms = false;
+    bool noDynamicRange = false;
+    bool swapChannels = false;
+
+    // Forward (PCM -> DSD).
+    int oversampling = 64;
+    dsp::FirOptions fir;
+    dsp::ModulatorOptions modulator;
+    std::optional<double> gain; // linear; absent = automatic
+    bool predistortion = true;
+
+    // PCM outputs (reverse and DXD).
+    bool flac = false;       // --format flac
+    int sampling = 0;        // --sampling, 0 = default of the decimator
+    int bits = 0;            // --bit 16/24/32, 0 = 24
+    bool floatOut = false;   // --float
+    double lowpassHz = 0;    // --lowpass
+    int dxdRate = 352800;    // --dxd-samplerate
+};
+
+struct ParsedCommandLine {
+    EngineOptions options;
+    std::vector<std::string> errors;      // bad or missing values, conflicts
+    std::vector<std::string> unsupported; // options this version does not implement
+    std::vector<std::string> unknown;     // options nobody sends
+    std::vector<std::string> warnings;    // accepted, but worth a line
+
+    bool usageError() const { return !errors.empty() || !unsupported.empty() || !unknown.empty(); }
+};
+
+// `args` without the program name and without the in-process host options.
+ParsedCommandLine parseCommandLine(const std::vector<std::string>& args);
+
+} // namespace zuvo::cli

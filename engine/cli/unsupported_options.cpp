@@ -1,0 +1,123 @@
+#include "cli/unsupported_options.h"
+
+#include <cstring>
+
+#include "cli/option_values.h"
+
+namespace zuvo::cli {
+
+namespace {
+
+struct Row {
+    const char* name;
+    ValueShape shape;
+};
+
+// Effects, repair stages, analysis extras, channel re-mapping, DST, OpenCL
+// and recording: not in this version of the engine.
+const Row kRows[] = {
+    // Repair and restoration.
+    {"--dehum", ValueShape::None}, {"--dehum-q", ValueShape::One},
+    {"--decrackle", ValueShape::None}, {"--decrackle-threshold", ValueShape::One},
+    {"--expand", ValueShape::None}, {"--expand-threshold", ValueShape::One},
+    {"--expand-ratio", ValueShape::One}, {"--expand-knee", ValueShape::One},
+    {"--expand-attack", ValueShape::One}, {"--expand-release", ValueShape::One},
+    {"--wiener", ValueShape::None}, {"--wiener-floor", ValueShape::One}, {"--wiener-frame", ValueShape::One},
+    {"--master", ValueShape::None}, {"--denoise", ValueShape::One}, {"--keep-harmonics", ValueShape::One},
+    {"--noise-reduce", ValueShape::One}, {"--stop-lossy", ValueShape::None},
+    // Noise-shaping variants of another modulator family.
+    {"--mp-ns", ValueShape::None}, {"--mp-poles", ValueShape::One}, {"--single-pole", ValueShape::None},
+    {"--no-ns", ValueShape::None}, {"--quantization-type", ValueShape::One},
+    {"--quantization-ratio", ValueShape::One}, {"--zero", ValueShape::Numbers}, {"--pole", ValueShape::One},
+    {"--noise-threshold", ValueShape::One}, {"--delta-f", ValueShape::One}, {"--psy", ValueShape::None},
+    {"--psy-strategy", ValueShape::One}, {"--psy-phon", ValueShape::One}, {"--dither", ValueShape::OptionalNumber},
+    {"--adaptive", ValueShape::None}, {"--poly", ValueShape::None}, {"--poly-save", ValueShape::One},
+    {"--poly-load", ValueShape::One}, {"--poly-auto", ValueShape::None}, {"--poly-degree", ValueShape::One},
+    {"--poly-report", ValueShape::None},
+    // Tone, equaliser and spatial effects.
+    {"--stereo", ValueShape::None}, {"--stereo-auto", ValueShape::None}, {"--stereo-width", ValueShape::One},
+    {"--stereo-crossfeed", ValueShape::One}, {"--eq-bass", ValueShape::One}, {"--eq-presence", ValueShape::One},
+    {"--eq-air", ValueShape::One}, {"--equalizer", ValueShape::Three}, {"--eq", ValueShape::One},
+    {"--eq-precut", ValueShape::One}, {"--bass", ValueShape::One}, {"--treble", ValueShape::One},
+    {"--hrtf", ValueShape::One}, {"--hrtf-mix", ValueShape::One}, {"--hrtf-side-mix", ValueShape::One},
+    {"--hrtf-depth", ValueShape::One}, {"--hrtf-load", ValueShape::One}, {"--surround", ValueShape::Surround},
+    {"--unsrs", ValueShape::None}, {"--stereoexpander", ValueShape::One}, {"--auto-pan", ValueShape::None},
+    {"--target-width", ValueShape::One}, {"--pan-report", ValueShape::None}, {"--crossfeed", ValueShape::Crossfeed},
+    {"--convolve", ValueShape::One}, {"--dsre", ValueShape::OptionalNumber}, {"--dsre-mix", ValueShape::One},
+    {"--dsne", ValueShape::OptionalNumber}, {"--dsne-ratio", ValueShape::One}, {"--dsne-knee", ValueShape::One},
+    {"--dsne-margin", ValueShape::One}, {"--dsee", ValueShape::OptionalNumber}, {"--dsee-drive", ValueShape::One},
+    {"--dsee-hmix", ValueShape::One}, {"--dsee-air", ValueShape::One}, {"--harmonics", ValueShape::Two},
+    {"--pbe", ValueShape::One}, {"--pbe-precut", ValueShape::One}, {"--apo", ValueShape::OptionalApo},
+    // Dynamics and loudness.
+    {"--lufs", ValueShape::One}, {"--rg", ValueShape::OptionalAlbum}, {"--compand", ValueShape::Three},
+    {"--compressor", ValueShape::Five}, {"--soft-limiter", ValueShape::One}, {"--lal", ValueShape::None},
+    {"--lal-lookahead", ValueShape::One}, {"--lal-threshold", ValueShape::One}, {"--rate", ValueShape::One},
+    {"--music-type", ValueShape::One}, {"--mastering-preset", ValueShape::One},
+    // Channel re-mapping.
+    {"--resetchannels", ValueShape::One}, {"--quad", ValueShape::None},
+    // Containers, transports and hardware.
+    {"--dst", ValueShape::None}, {"--dst-compression", ValueShape::One}, {"--opencl", ValueShape::None},
+    {"--pipe", ValueShape::None}, {"--force-endianness", ValueShape::One}, {"--memory-cache", ValueShape::One},
+    {"--cue", ValueShape::One}, {"--cover", ValueShape::One},
+    // Analysis extras.
+    {"--measure", ValueShape::None}, {"--stats", ValueShape::None}, {"--spectrogram", ValueShape::One},
+    {"--hfacheck", ValueShape::None},
+    // Recording.
+    {"--record", ValueShape::None}, {"--record-dsd", ValueShape::None}, {"--dsd-mode", ValueShape::One},
+    {"--record-device", ValueShape::One}, {"--record-channels", ValueShape::One},
+    {"--record-duration", ValueShape::One}, {"--record-monitor", ValueShape::None},
+    {"--record-exclusive", ValueShape::None}, {"--record-headroom", ValueShape::One},
+    {"--record-buffer", ValueShape::One}, {"--record-samplerate", ValueShape::One},
+    {"--record-monitor-device", ValueShape::One},
+};
+
+} // namespace
+
+bool lookupUnsupported(const std::string& name, ValueShape& shape)
+{
+    for (const Row& r : kRows) {
+        if (name == r.name) {
+            shape = r.shape;
+            return true;
+        }
+    }
+    return false;
+}
+
+std::size_t valueCount(ValueShape shape, const std::vector<std::string>& args, std::size_t i)
+{
+    const std::size_t left = args.size() - i - 1;
+    auto at = [&](std::size_t k) -> const std::string& { return args[i + k]; };
+    std::size_t n = 0;
+    switch (shape) {
+    case ValueShape::None: n = 0; break;
+    case ValueShape::One: n = 1; break;
+    case ValueShape::Two: n = 2; break;
+    case ValueShape::Three: n = 3; break;
+    case ValueShape::Five: n = 5; break;
+    case ValueShape::OptionalNumber: n = left >= 1 && isNumber(at(1)) ? 1 : 0; break;
+    case ValueShape::OptionalApo:
+        n = left >= 1 && (at(1) == "light" || at(1) == "normal" || at(1) == "aggressive") ? 1 : 0;
+        break;
+    case ValueShape::OptionalAlbum: n = left >= 1 && at(1) == "album" ? 1 : 0; break;
+    case ValueShape::Numbers:
+        while (n < left && isNumber(at(n + 1)))
+            ++n;
+        break;
+    case ValueShape::Crossfeed:
+        n = 1;
+        if (left >= 1 && at(1) == "custom")
+            n = 3;
+        break;
+    case ValueShape::Surround:
+        n = 2;
+        if (left > n && at(n + 1) == "side")
+            ++n;
+        if (left > n && isNumber(at(n + 1)))
+            ++n;
+        break;
+    }
+    return n < left ? n : left;
+}
+
+} // namespace zuvo::cli

@@ -1,0 +1,215 @@
+// DSDIFF 1.5: FRM8 form of type "DSD " holding FVER, PROP (FS, CHNL, CMPR),
+// the tag chunks (COMT, DIIN with DIAR/DITI), then the uncompressed DSD
+// chunk, byte-interleaved and earliest bit in bit 7, then an ID3 chunk for
+// the fields DSDIFF has no place for. COMT and DIIN come before the sound
+// data so that readers which stop there still see artist and title.
+#include "io/dff_writer.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+#include "io/bit_order.h"
+
+namespace zuvo::io {
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+void putBE(Bytes& b, std::uint64_t v, int n)
+{
+    for (int i = n - 1; i >= 0; --i)
+        b.push_back(static_cast<std::uint8_t>(v >> (8 * i)));
+}
+
+void putId(Bytes& b, const char* id)
+{
+    for (int i = 0; i < 4; ++i)
+        b.push_back(static_cast<std::uint8_t>(id[i]));
+}
+
+// A chunk: id, 8-byte size, body, pad byte to an even length.
+void putChunk(Bytes& b, const char* id, const Bytes& body)
+{
+    putId(b, id);
+    putBE(b, body.size(), 8);
+    b.insert(b.end(), body.begin(), body.end());
+    if (body.size() & 1)
+        b.push_back(0);
+}
+
+void putCountedText(Bytes& b, const std::string& text)
+{
+    putBE(b, text.size(), 4);
+    b.insert(b.end(), text.begin(), text.end());
+    if (text.size() & 1)
+        b.push_back(0);
+}
+
+const char* channelId(int channels, int index)
+{
+    static const char* stereo[] = {"SLFT", "SRGT"};
+    static const char* multi[] = {"MLFT", "MRGT", "C   ", "LFE ", "LS  ", "RS  "};
+    if (channels == 1)
+        return "C   ";
+    if (channels == 2)
+        return stereo[index];
+    if (channels <= 6)
+        return multi[index];
+    return nullptr;
+}
+
+Bytes propChunkBody(const DsdFormat& f)
+{
+    Bytes prop;
+    putId(prop, "SND ");
+    Bytes fs;
+    putBE(fs, static_cast<std::uint64_t>(f.sampleRate), 4);
+    putChunk(prop, "FS  ", fs);
+    Bytes chnl;
+    putBE(chnl, static_cast<std::uint64_t>(f.channels), 2);
+    for (int c = 0; c < f.channels; ++c) {
+        if (const char* id = channelId(f.channels, c)) {
+            putId(chnl, id);
+        } else {
+            char numbered[8];
+            std::snprintf(numbered, sizeof numbered, "C%03d", c);
+            putId(chnl, numbered);
+        }
+    }
+    putChunk(prop, "CHNL", chnl);
+    Bytes cmpr;
+    putId(cmpr, "DSD ");
+    const std::string name = "not compressed";
+    cmpr.push_back(static_cast<std::uint8_t>(name.size()));
+    cmpr.insert(cmpr.end(), name.begin(), name.end());
+    if ((name.size() + 1) & 1)
+        cmpr.push_back(0);
+    putChunk(prop, "CMPR", cmpr);
+    return prop;
+}
+
+Bytes tagChunks(const Tags& tags)
+{
+    Bytes out;
+    if (!tags.comment.empty()) {
+        std::time_t now = std::time(nullptr);
+        std::tm tm{};
+        gmtime_r(&now, &tm);
+        Bytes comt;
+        putBE(comt, 1, 2); // one comment
+        putBE(comt, static_cast<std::uint64_t>(tm.tm_year + 1900), 2);
+        comt.push_back(static_cast<std::uint8_t>(tm.tm_mon + 1));
+        comt.push_back(static_cast<std::uint8_t>(tm.tm_mday));
+        comt.push_back(static_cast<std::uint8_t>(tm.tm_hour));
+        comt.push_back(static_cast<std::uint8_t>(tm.tm_min));
+        putBE(comt, 0, 2); // general comment
+        putBE(comt, 0, 2); // no reference
+        putCountedText(comt, tags.comment);
+        putChunk(out, "COMT", comt);
+    }
+    // DIIN with artist and title is written even when both are empty: the
+    // front-end always sends them for .dff and some players expect it.
+    Bytes diin;
+    Bytes diar;
+    putCountedText(diar, tags.artist);
+    putChunk(diin, "DIAR", diar);
+    Bytes diti;
+    putCountedText(diti, tags.title);
+    putChunk(diin, "DITI", diti);
+    putChunk(out, "DIIN", diin);
+    return out;
+}
+
+} // namespace
+
+bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tags& tags, std::string* error)
+{
+    if (format.channels < 1 || format.channels > 1000) {
+        if (error)
+            *error = "unsupported channel count for DSDIFF";
+        return false;
+    }
+    format_ = format;
+    tags_ = tags;
+    pending_.assign(static_cast<std::size_t>(format.channels), {});
+    validBytes_ = 0;
+
+    Bytes head;
+    putId(head, "FRM8");
+    putBE(head, 0, 8); // form size, patched at the end
+    putId(head, "DSD ");
+    Bytes fver;
+    putBE(fver, 0x01050000, 4);
+    putChunk(head, "FVER", fver);
+    putChunk(head, "PROP", propChunkBody(format));
+    const Bytes tagBytes = tagChunks(tags);
+    head.insert(head.end(), tagBytes.begin(), tagBytes.end());
+    dsdChunkOffset_ = head.size();
+    putId(head, "DSD ");
+    putBE(head, 0, 8); // sound data size, patched at the end
+    if (!file_.open(path, error))
+        return false;
+    return file_.write(head.data(), head.size(), error);
+}
+
+bool DffWriter::writeInterleaved(std::size_t n, std::string* error)
+{
+    const std::size_t ch = pending_.size();
+    interleaved_.resize(n * ch);
+    for (std::size_t c = 0; c < ch; ++c) {
+        const std::uint8_t* src = pending_[c].data();
+        std::uint8_t* dst = interleaved_.data() + c;
+        for (std::size_t i = 0; i < n; ++i)
+            dst[i * ch] = src[i];
+    }
+    if (!file_.write(interleaved_.data(), interleaved_.size(), error))
+        return false;
+    validBytes_ += n;
+    for (auto& p : pending_)
+        p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(n));
+    return true;
+}
+
+bool DffWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, std::string* error)
+{
+    for (std::size_t c = 0; c < pending_.size() && c < perChannel.size(); ++c)
+        pending_[c].insert(pending_[c].end(), perChannel[c].begin(), perChannel[c].end());
+    std::size_t common = SIZE_MAX;
+    for (const auto& p : pending_)
+        common = std::min(common, p.size());
+    return common == 0 || writeInterleaved(common, error);
+}
+
+bool DffWriter::finalize(std::string* error)
+{
+    std::size_t longest = 0;
+    for (const auto& p : pending_)
+        longest = std::max(longest, p.size());
+    for (auto& p : pending_)
+        p.resize(longest, kDsdSilenceMsbFirst);
+    if (longest > 0 && !writeInterleaved(longest, error))
+        return false;
+    const std::uint64_t dataBytes = validBytes_ * pending_.size();
+    if ((dataBytes & 1) && !file_.writeU8(0, error))
+        return false;
+    // The fields DSDIFF has no chunk for (album, genre, year, track) travel
+    // in an ID3 chunk after the sound data, where readers look for it.
+    if (!tags_.empty()) {
+        Bytes id3Chunk;
+        putChunk(id3Chunk, "ID3 ", buildId3v2(tags_));
+        if (!file_.write(id3Chunk.data(), id3Chunk.size(), error))
+            return false;
+    }
+    const std::uint64_t formSize = file_.position() - 12;
+    return file_.patchBE(4, formSize, 8, error) && file_.patchBE(dsdChunkOffset_ + 4, dataBytes, 8, error)
+        && file_.close(error);
+}
+
+void DffWriter::discard()
+{
+    file_.discard();
+}
+
+} // namespace zuvo::io

@@ -1,0 +1,147 @@
+// DSF: a fixed 92-byte header (DSD, fmt and data chunk heads), then blocks of
+// 4096 bytes per channel, channel after channel, earliest bit in bit 0, and
+// an ID3v2 tag at the end that the header points to.
+#include "io/dsf_writer.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "io/bit_order.h"
+
+namespace zuvo::io {
+
+namespace {
+constexpr std::uint64_t kHeaderSize = 28;
+constexpr std::uint64_t kFmtSize = 52;
+constexpr std::uint64_t kDataHeadSize = 12;
+constexpr std::uint64_t kDataStart = kHeaderSize + kFmtSize + kDataHeadSize;
+constexpr std::size_t kBlock = 4096;
+
+int channelType(int channels)
+{
+    // 1 mono, 2 stereo, 3 three channels, 4 quad, 5 four channels, 6 five channels, 7 5.1
+    switch (channels) {
+    case 1: return 1;
+    case 2: return 2;
+    case 3: return 3;
+    case 4: return 4;
+    case 5: return 6;
+    case 6: return 7;
+    default: return 0;
+    }
+}
+} // namespace
+
+bool DsfWriter::open(const std::string& path, const DsdFormat& format, const Tags& tags, std::string* error)
+{
+    if (format.channels < 1 || format.channels > 6) {
+        if (error)
+            *error = "a DSF file holds 1 to 6 channels (use .dff for " + std::to_string(format.channels) + ")";
+        return false;
+    }
+    format_ = format;
+    tags_ = tags;
+    pending_.assign(static_cast<std::size_t>(format.channels), {});
+    validBytes_ = 0;
+    blocks_ = 0;
+    if (!file_.open(path, error))
+        return false;
+    OutputFile& f = file_;
+    return f.write("DSD ", 4, error) && f.writeLE(kHeaderSize, 8, error)
+        && f.writeLE(0, 8, error)  // total file size, patched at the end
+        && f.writeLE(0, 8, error)  // metadata pointer, patched at the end
+        && f.write("fmt ", 4, error) && f.writeLE(kFmtSize, 8, error)
+        && f.writeLE(1, 4, error)  // format version
+        && f.writeLE(0, 4, error)  // DSD raw
+        && f.writeLE(static_cast<std::uint64_t>(channelType(format.channels)), 4, error)
+        && f.writeLE(static_cast<std::uint64_t>(format.channels), 4, error)
+        && f.writeLE(static_cast<std::uint64_t>(format.sampleRate), 4, error)
+        && f.writeLE(1, 4, error)  // bits per sample: 1 = earliest bit in bit 0
+        && f.writeLE(0, 8, error)  // sample count, patched at the end
+        && f.writeLE(kBlock, 4, error)
+        && f.writeLE(0, 4, error)  // reserved
+        && f.write("data", 4, error) && f.writeLE(kDataHeadSize, 8, error);
+}
+
+bool DsfWriter::flushBlocks(bool padLast, std::string* error)
+{
+    const auto& rev = bitReverseTable();
+    std::uint8_t block[kBlock];
+    for (;;) {
+        std::size_t have = SIZE_MAX;
+        for (const auto& p : pending_)
+            have = std::min(have, p.size() - offset_);
+        if (have == 0 || (have < kBlock && !padLast))
+            return true;
+        for (auto& p : pending_) {
+            const std::size_t n = std::min(have, kBlock);
+            for (std::size_t i = 0; i < n; ++i)
+                block[i] = rev[p[offset_ + i]];
+            // Bytes past the valid length are ignored by readers (the sample
+            // count says where the signal ends); silence keeps them harmless.
+            for (std::size_t i = n; i < kBlock; ++i)
+                block[i] = rev[kDsdSilenceMsbFirst];
+            if (!file_.write(block, kBlock, error))
+                return false;
+        }
+        const std::size_t n = std::min(have, kBlock);
+        offset_ += n;
+        ++blocks_;
+        if (n < kBlock)
+            return true;
+    }
+}
+
+bool DsfWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, std::string* error)
+{
+    for (std::size_t c = 0; c < pending_.size() && c < perChannel.size(); ++c)
+        pending_[c].insert(pending_[c].end(), perChannel[c].begin(), perChannel[c].end());
+    const std::size_t before = offset_;
+    if (!flushBlocks(false, error))
+        return false;
+    validBytes_ += offset_ - before;
+    // Drop what went out so the buffers stay one block deep.
+    for (auto& p : pending_)
+        p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(offset_));
+    offset_ = 0;
+    return true;
+}
+
+bool DsfWriter::finalize(std::string* error)
+{
+    // Channels that ended short are padded with silence so all are equal.
+    std::size_t longest = 0;
+    for (const auto& p : pending_)
+        longest = std::max(longest, p.size());
+    for (auto& p : pending_)
+        p.resize(longest, kDsdSilenceMsbFirst);
+    const std::size_t before = offset_;
+    if (!flushBlocks(true, error))
+        return false;
+    validBytes_ += offset_ - before;
+    pending_.assign(pending_.size(), {});
+    offset_ = 0;
+
+    const std::uint64_t dataBytes = blocks_ * kBlock * static_cast<std::uint64_t>(format_.channels);
+    const std::uint64_t metaOffset = kDataStart + dataBytes;
+    std::uint64_t total = metaOffset;
+    std::uint64_t metaPointer = 0;
+    if (!tags_.empty()) {
+        const auto id3 = buildId3v2(tags_);
+        if (!file_.write(id3.data(), id3.size(), error))
+            return false;
+        total += id3.size();
+        metaPointer = metaOffset;
+    }
+    return file_.patchLE(12, total, 8, error) && file_.patchLE(20, metaPointer, 8, error)
+        && file_.patchLE(kHeaderSize + 36, validBytes_ * 8, 8, error)
+        && file_.patchLE(kHeaderSize + kFmtSize + 4, kDataHeadSize + dataBytes, 8, error)
+        && file_.close(error);
+}
+
+void DsfWriter::discard()
+{
+    file_.discard();
+}
+
+} // namespace zuvo::io

@@ -1,0 +1,26 @@
+#pragma once
+#include "io/dsd_writer.h"
+
+namespace zuvo::io {
+
+class DsfWriter final : public DsdWriter {
+public:
+    bool open(const std::string& path, const DsdFormat& format, const Tags& tags, std::string* error) override;
+    bool write(const std::vector<std::vector<std::uint8_t>>& perChannel, std::string* error) override;
+    bool finalize(std::string* error) override;
+    void discard() override;
+    std::uint64_t bytesPerChannel() const override { return validBytes_; }
+
+private:
+    bool flushBlocks(bool padLast, std::string* error);
+
+    OutputFile file_;
+    DsdFormat format_;
+    Tags tags_;
+    std::vector<std::vector<std::uint8_t>> pending_;
+    std::size_t offset_ = 0;
+    std::uint64_t validBytes_ = 0;
+    std::uint64_t blocks_ = 0;
+};
+
+} // namespace zuvo::io

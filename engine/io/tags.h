@@ -1,0 +1,34 @@
+#pragma once
+// Text tags carried into DSF (ID3v2 chunk) and DSDIFF (DIIN/COMT + ID3 chunk)
+// outputs, and read back from PCM inputs and DSD files.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace zuvo::io {
+
+struct Tags {
+    std::string artist;
+    std::string title;
+    std::string album;
+    std::string genre;
+    std::string year;
+    std::string comment;
+    int track = 0; // 0 = none, else 1..998
+
+    bool empty() const;
+    // Fields that are empty here take the value from `other`.
+    void fillEmptyFrom(const Tags& other);
+};
+
+// ID3v2.3 tag (header included) with one text frame per non-empty field.
+// Plain ASCII is stored as ISO-8859-1, anything else as UTF-16 with BOM, the
+// encoding every DSD player understands.
+std::vector<std::uint8_t> buildId3v2(const Tags& tags);
+
+// Parses the frames this engine writes (and the usual v2.3/v2.4 text frames
+// of other writers). Returns false when `data` is not an ID3v2 tag.
+bool parseId3v2(const std::uint8_t* data, std::size_t size, Tags& out);
+
+} // namespace zuvo::io

@@ -1,0 +1,157 @@
+// PCM -> high-rate PCM: decode a block, resample each channel on its own
+// thread, write through libsndfile.
+#include "run/dxd_run.h"
+
+#include <chrono>
+
+#include "io/pcm_reader.h"
+#include "io/pcm_writer.h"
+#include "run/channel_pool.h"
+#include "run/exit_codes.h"
+#include "run/levels.h"
+#include "run/output_checks.h"
+#include "run/pcm_output_format.h"
+
+namespace zuvo::run {
+
+int runDxd(RunContext& ctx)
+{
+    const cli::EngineOptions& o = ctx.options;
+    const std::string& input = o.inputs.front();
+    if (sameFile(input, o.output)) {
+        report(ctx, "the output is the input file: %s", o.output.c_str());
+        return kExitUsage;
+    }
+    std::string error;
+    io::PcmReader reader;
+    if (!reader.open(input, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    const io::PcmStreamInfo& in = reader.info();
+    detail(ctx, "input: %s, %s, %d Hz, %d channel(s)", input.c_str(), in.formatName.c_str(), in.sampleRate, in.channels);
+    if (in.channels < 1 || in.channels > 8) {
+        report(ctx, "%s has %d channels; this engine takes 1 to 8", input.c_str(), in.channels);
+        return kExitFailure;
+    }
+    const auto ch = static_cast<std::size_t>(in.channels);
+    std::vector<dsp::ChannelResampler> resamplers;
+    for (std::size_t c = 0; c < ch; ++c) {
+        resamplers.emplace_back(in.sampleRate, o.dxdRate, &error);
+        if (!resamplers.back().valid()) {
+            report(ctx, "resampler refused %d -> %d Hz: %s", in.sampleRate, o.dxdRate, error.c_str());
+            return kExitUsage;
+        }
+    }
+    io::PcmOutputFormat format;
+    format.channels = in.channels;
+    format.sampleRate = o.dxdRate;
+    format.sample = pcmSampleFormat(o);
+    format.flac = o.flac;
+    if (!io::checkPcmOutput(o.output, format, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitUsage;
+    }
+    if (!outputFolderExists(o.output, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    io::Tags tags = o.tags;
+    if (o.metadataFromInput)
+        tags.fillEmptyFrom(reader.tags());
+    io::PcmWriter writer;
+    if (!writer.open(o.output, format, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    writer.setTags(tags);
+    ctx.log.line("dxd: %s %d Hz -> %d Hz, %d channel(s)", input.c_str(), in.sampleRate, o.dxdRate, in.channels);
+
+    std::vector<std::size_t> source(ch);
+    for (std::size_t c = 0; c < ch; ++c)
+        source[c] = c;
+    if (o.swapChannels && ch >= 2)
+        std::swap(source[0], source[1]);
+    ChannelPool pool(ChannelPool::threadsFor(in.channels));
+    std::vector<double> block, interleaved;
+    std::vector<std::vector<double>> planar(ch), pcm(ch);
+    std::vector<ChannelLevel> levels(ch);
+    auto writeOut = [&]() {
+        std::size_t n = pcm[0].size();
+        for (const auto& p : pcm)
+            n = std::min(n, p.size());
+        interleaved.resize(n * ch);
+        for (std::size_t c = 0; c < ch; ++c)
+            for (std::size_t i = 0; i < n; ++i)
+                interleaved[i * ch + c] = pcm[c][i];
+        for (auto& p : pcm)
+            p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(n));
+        return writer.write(interleaved, &error);
+    };
+    const auto started = std::chrono::steady_clock::now();
+    long long done = 0;
+    bool stopped = false;
+    for (;;) {
+        if (ctx.stopRequested()) {
+            stopped = true;
+            break;
+        }
+        const long long got = reader.read(16384, block, &error);
+        if (got < 0) {
+            writer.discard();
+            report(ctx, "%s", error.c_str());
+            return kExitFailure;
+        }
+        if (got == 0)
+            break;
+        const auto n = static_cast<std::size_t>(got);
+        pool.run(in.channels, [&](int ci) {
+            const auto c = static_cast<std::size_t>(ci);
+            planar[c].resize(n);
+            for (std::size_t i = 0; i < n; ++i)
+                planar[c][i] = block[i * ch + source[c]];
+            levels[c].add(planar[c].data(), n, 1);
+            resamplers[c].process(planar[c].data(), n, pcm[c]);
+        });
+        if (!writeOut()) {
+            writer.discard();
+            report(ctx, "%s", error.c_str());
+            return kExitFailure;
+        }
+        done += got;
+        const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+        if (in.frames > 0)
+            ctx.progress.update(100.0 * static_cast<double>(done) / static_cast<double>(in.frames),
+                                elapsed > 0 ? static_cast<double>(done) / in.sampleRate / elapsed : 0);
+    }
+    if (!stopped) {
+        pool.run(in.channels, [&](int c) { resamplers[static_cast<std::size_t>(c)].finish(pcm[static_cast<std::size_t>(c)]); });
+        if (!writeOut()) {
+            writer.discard();
+            report(ctx, "%s", error.c_str());
+            return kExitFailure;
+        }
+    }
+    if (!writer.finalize(&error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    ctx.progress.finish(!stopped);
+    const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+    const double seconds = static_cast<double>(done) / in.sampleRate;
+    ctx.log.line("resampled %.3f s in %.3f s; %lld sample(s) clipped", seconds, elapsed, writer.clippedSamples());
+    if (writer.clippedSamples() > 0)
+        report(ctx, "warning: %lld sample(s) exceeded full scale and were clipped", writer.clippedSamples());
+    if (o.report || o.reportPeak || o.reportRms) {
+        const bool both = !o.reportPeak && !o.reportRms;
+        std::fprintf(stdout, "%s", levelReport(levels, both || o.reportPeak, both || o.reportRms).c_str());
+        std::fflush(stdout);
+    }
+    if (stopped) {
+        report(ctx, "stopped on request; the partial output is complete up to that point: %s", o.output.c_str());
+        return kExitStopped;
+    }
+    return kExitOk;
+}
+
+} // namespace zuvo::run

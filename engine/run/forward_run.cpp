@@ -1,0 +1,238 @@
+// PCM -> DSD: decode a block, encode every channel on its own thread, hand the
+// bytes to the container writer, report progress, listen for "stop".
+#include "run/forward_run.h"
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+
+#include "io/dsd_writer.h"
+#include "io/pcm_reader.h"
+#include "run/channel_pool.h"
+#include "run/exit_codes.h"
+#include "run/levels.h"
+#include "run/output_checks.h"
+
+namespace zuvo::run {
+
+namespace {
+
+bool supportedRate(int rate)
+{
+    return rate >= 44100 && rate <= 384000 && (rate % 44100 == 0 || rate % 48000 == 0);
+}
+
+// Input frames per block: short enough that progress and "stop" are seen a
+// few times a second, and that one block's output stays near 256 KiB per
+// channel at every DSD rate (bounded memory even at DSD8192).
+std::size_t blockFrames(int inputRate, int dsdRate)
+{
+    const double bytesPerFrame = static_cast<double>(dsdRate) / 8.0 / inputRate;
+    const auto frames = static_cast<std::size_t>((1 << 18) / bytesPerFrame);
+    return std::clamp<std::size_t>(frames, 1024, 16384);
+}
+
+dsp::ForwardConfig makeConfig(const cli::EngineOptions& o, int inputRate)
+{
+    dsp::ForwardConfig c;
+    c.inputRate = inputRate;
+    c.dsdMultiple = o.oversampling;
+    c.fir = o.fir;
+    c.modulator = o.modulator;
+    c.gain = o.gain ? *o.gain : NAN;
+    c.predistortion = o.predistortion;
+    return c;
+}
+
+const char* modulatorName(dsp::ModulatorType t)
+{
+    switch (t) {
+    case dsp::ModulatorType::SosEf: return "SOS error feedback";
+    case dsp::ModulatorType::SingleLoop: return "single loop";
+    case dsp::ModulatorType::Cifb: return "CIFB";
+    case dsp::ModulatorType::Mash: return "MASH";
+    }
+    return "?";
+}
+
+} // namespace
+
+int runForward(RunContext& ctx)
+{
+    const cli::EngineOptions& o = ctx.options;
+    const std::string& input = o.inputs.front();
+    const std::string ext = lowerExtension(o.output);
+    if (ext != ".dsf" && ext != ".dff") {
+        report(ctx, "the output must end in .dsf or .dff (or use --reverse / --dxd for PCM): %s", o.output.c_str());
+        return kExitUsage;
+    }
+    const auto container = ext == ".dsf" ? io::DsdContainer::Dsf : io::DsdContainer::Dff;
+    if (sameFile(input, o.output)) {
+        report(ctx, "the output is the input file: %s", o.output.c_str());
+        return kExitUsage;
+    }
+
+    std::string error;
+    io::PcmReader reader;
+    if (!reader.open(input, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    const io::PcmStreamInfo& in = reader.info();
+    detail(ctx, "input: %s, %s, %d Hz, %d channel(s), %lld frames", input.c_str(), in.formatName.c_str(),
+           in.sampleRate, in.channels, static_cast<long long>(in.frames));
+    if (in.channels < 1 || in.channels > 8) {
+        report(ctx, "%s has %d channels; this engine takes 1 to 8", input.c_str(), in.channels);
+        return kExitFailure;
+    }
+    if (!supportedRate(in.sampleRate)) {
+        report(ctx, "%s: sample rate %d Hz is not supported (44.1 and 48 kHz families, 44100 to 384000 Hz)",
+               input.c_str(), in.sampleRate);
+        return kExitFailure;
+    }
+    if (in.channels > io::maxChannels(container)) {
+        report(ctx, "a DSF file holds at most %d channels and %s has %d: use a .dff output",
+               io::maxChannels(container), input.c_str(), in.channels);
+        return kExitUsage;
+    }
+    if (in.looksTruncated)
+        report(ctx, "warning: %s holds less audio than its header says (truncated file?); converting what is there",
+               input.c_str());
+
+    io::Tags tags = o.tags;
+    if (o.metadataFromInput)
+        tags.fillEmptyFrom(reader.tags());
+
+    const dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
+    auto design = dsp::designForward(config, &error);
+    if (!design) {
+        report(ctx, "filter design refused: %s", error.c_str());
+        return kExitUsage;
+    }
+    const dsp::DesignSummary& summary = dsp::summary(*design);
+    const int dsdRate = dsp::dsdRateHz(*design);
+    ctx.log.line("DSD%d (%d Hz), modulator %s order %d, gain %s, predistortion %s", o.oversampling, dsdRate,
+                 modulatorName(o.modulator.type), o.modulator.order,
+                 o.gain ? std::to_string(*o.gain).c_str() : "automatic", o.predistortion ? "on" : "off");
+    ctx.log.line("design summary:");
+    ctx.log.text(summary.text);
+    ctx.log.line("applied gain %.6f, pass-band ripple %.4f dB, image rejection %.1f dB, max stable input %.2f dBFS",
+                 summary.appliedGain, summary.passbandRippleDb, summary.stopbandAttenuationDb, summary.maxStableInputDbfs);
+    if (o.verbose || !o.logTopics.empty())
+        std::fprintf(stdout, "%s\n", summary.text.c_str());
+
+    if (!outputFolderExists(o.output, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    auto writer = io::makeDsdWriter(container);
+    if (!writer->open(o.output, {in.channels, dsdRate}, tags, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+
+    const auto channels = static_cast<std::size_t>(in.channels);
+    std::vector<dsp::ChannelEncoder> encoders;
+    encoders.reserve(channels);
+    for (std::size_t c = 0; c < channels; ++c)
+        encoders.emplace_back(design);
+    std::vector<std::size_t> source(channels);
+    for (std::size_t c = 0; c < channels; ++c)
+        source[c] = c;
+    if (o.swapChannels && channels >= 2)
+        std::swap(source[0], source[1]);
+
+    ChannelPool pool(ChannelPool::threadsFor(in.channels));
+    const std::size_t frames = blockFrames(in.sampleRate, dsdRate);
+    std::vector<double> interleaved;
+    std::vector<std::vector<double>> planar(channels);
+    std::vector<std::vector<std::uint8_t>> bytes(channels);
+    std::vector<ChannelLevel> levels(channels);
+    const auto started = std::chrono::steady_clock::now();
+    long long done = 0;
+    bool stopped = false;
+
+    for (;;) {
+        if (ctx.stopRequested()) {
+            stopped = true;
+            break;
+        }
+        const long long got = reader.read(frames, interleaved, &error);
+        if (got < 0) {
+            writer->discard();
+            report(ctx, "%s", error.c_str());
+            return kExitFailure;
+        }
+        if (got == 0)
+            break;
+        const auto n = static_cast<std::size_t>(got);
+        pool.run(in.channels, [&](int ci) {
+            const auto c = static_cast<std::size_t>(ci);
+            planar[c].resize(n);
+            const double* src = interleaved.data() + source[c];
+            for (std::size_t i = 0; i < n; ++i)
+                planar[c][i] = src[i * channels];
+            levels[c].add(planar[c].data(), n, 1);
+            bytes[c].clear();
+            encoders[c].process(planar[c].data(), n, bytes[c]);
+        });
+        if (!writer->write(bytes, &error)) {
+            writer->discard();
+            report(ctx, "%s", error.c_str());
+            return kExitFailure;
+        }
+        done += got;
+        const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+        const double speed = elapsed > 0 ? static_cast<double>(done) / in.sampleRate / elapsed : 0;
+        if (in.frames > 0)
+            ctx.progress.update(100.0 * static_cast<double>(done) / static_cast<double>(in.frames), speed);
+    }
+    if (!stopped) {
+        pool.run(in.channels, [&](int ci) {
+            const auto c = static_cast<std::size_t>(ci);
+            bytes[c].clear();
+            encoders[c].finish(bytes[c]);
+        });
+        if (!writer->write(bytes, &error)) {
+            writer->discard();
+            report(ctx, "%s", error.c_str());
+            return kExitFailure;
+        }
+    }
+    if (!writer->finalize(&error)) {
+        writer->discard();
+        report(ctx, "%s", error.c_str());
+        return kExitFailure;
+    }
+    ctx.progress.finish(!stopped);
+
+    const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+    const double seconds = static_cast<double>(done) / in.sampleRate;
+    ctx.log.line("converted %.3f s of audio in %.3f s (%.1fx realtime), %llu DSD bytes per channel", seconds, elapsed,
+                 elapsed > 0 ? seconds / elapsed : 0.0, static_cast<unsigned long long>(writer->bytesPerChannel()));
+    std::uint64_t overloads = 0;
+    for (std::size_t c = 0; c < channels; ++c) {
+        const auto st = encoders[c].stats();
+        overloads += st.overloads;
+        ctx.log.line("channel %zu: input peak %.2f dBFS, rms %.2f dBFS; modulator peak input %.4f, overloads %llu, resets %llu",
+                     c + 1, levels[c].peakDbfs(), levels[c].rmsDbfs(), st.peakInput,
+                     static_cast<unsigned long long>(st.overloads), static_cast<unsigned long long>(st.resets));
+    }
+    if (overloads > 0)
+        report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
+               static_cast<unsigned long long>(overloads));
+    detail(ctx, "%.3f s of audio in %.3f s (%.1fx realtime)", seconds, elapsed, elapsed > 0 ? seconds / elapsed : 0.0);
+    if (o.report || o.reportPeak || o.reportRms) {
+        const bool both = !o.reportPeak && !o.reportRms;
+        std::fprintf(stdout, "%s", levelReport(levels, both || o.reportPeak, both || o.reportRms).c_str());
+        std::fflush(stdout);
+    }
+    if (stopped) {
+        report(ctx, "stopped on request; the partial output is complete up to that point: %s", o.output.c_str());
+        return kExitStopped;
+    }
+    detail(ctx, "done: %s", o.output.c_str());
+    return kExitOk;
+}
+
+} // namespace zuvo::run

@@ -59,6 +59,9 @@ struct DesignSummary {
     double stopbandAttenuationDb = 0; // worst image rejection of the whole chain
     double appliedGain = 1.0;         // the linear gain actually used
     double maxStableInputDbfs = 0;    // highest input level the modulator takes without overload
+    // Added by the signal path: the same limit measured at the modulator's
+    // own input (before the gain), i.e. independent of the gain choice.
+    double modulatorMaxStableDbfs = 0;
 };
 
 struct ForwardDesign; // opaque, immutable once made
@@ -100,7 +103,14 @@ struct ReverseConfig {
     int outputRate = 0;      // 0 = default (see reverseDefaultRate)
     double lowpassHz = 0;    // 0 = default
 };
+// Default output: 352800 Hz (DXD) whenever the DSD rate allows it (every
+// rate from DSD64 up), low-passed by reverseDefaultLowpass. Samples are
+// doubles at full scale 1.0; kReverseDefaultBits is the word length we
+// recommend when the file layer writes integers (the in-band noise of DSD64
+// sits near -140 dBFS, below 24-bit's floor only by a little).
 int reverseDefaultRate(int dsdRate);
+double reverseDefaultLowpass(int dsdRate, int outputRate);
+constexpr int kReverseDefaultBits = 24;
 
 class ChannelDecimator {
 public:

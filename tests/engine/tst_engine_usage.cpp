@@ -1,0 +1,262 @@
+// The command line as the front-end sends it: accepted forms, refused
+// options, bad values and bad inputs, each with its exit code and without
+// stray output files.
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sndfile.h>
+
+#include "engine_test_support.h"
+
+using namespace enginetest;
+
+class EngineUsageTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void versionAndHelp();
+    void frontEndDefaultCommandLine();
+    void dffWithEmptyArtistAndTitle();
+    void unsupportedOptionsAllNamedBeforeOutput();
+    void unknownOptionRefused();
+    void badValuesRefused_data();
+    void badValuesRefused();
+    void mashOrderIsOptional();
+    void designErrorIsUsageError();
+    void outputEqualToInputRefused();
+    void missingOutputFolder();
+    void writeErrorOnFullDevice();
+    void badInputs_data();
+    void badInputs();
+    void logFileThatCannotBeOpenedIsAWarning();
+
+private:
+    QString tone(const QString& name, double seconds = 0.25);
+    QTemporaryDir dir_;
+};
+
+QString EngineUsageTest::tone(const QString& name, double seconds)
+{
+    const QString path = dir_.filePath(name);
+    if (!QFile::exists(path))
+        writePcm(path, 44100, 2, long(seconds * 44100), SF_FORMAT_WAV | SF_FORMAT_PCM_24,
+                 [](long i, int) { return 0.25 * std::sin(2 * M_PI * 1000.0 * i / 44100.0); });
+    return path;
+}
+
+void EngineUsageTest::initTestCase()
+{
+    QVERIFY(dir_.isValid());
+    QVERIFY2(QFile::exists(enginePath()), qPrintable(enginePath()));
+}
+
+void EngineUsageTest::versionAndHelp()
+{
+    const RunResult v = runEngine({"--version"});
+    QCOMPARE(v.exitCode, 0);
+    QVERIFY2(QRegularExpression("^ZuvoEngine \\d+\\.\\d+\\.\\d+\\n$").match(v.out).hasMatch(), qPrintable(v.out));
+    // The diagnostics dialog adds a log file to its probes.
+    const RunResult v2 = runEngine({"--version", "--log-file", dir_.filePath("probe.log")});
+    QCOMPARE(v2.exitCode, 0);
+    QVERIFY(v2.out.startsWith("ZuvoEngine "));
+    const RunResult h = runEngine({"--help"});
+    QCOMPARE(h.exitCode, 0);
+    for (const char* needle : {"--oversampling", "--reverse", "--dxd", "195", "Exit codes", "--metadata-from-input"})
+        QVERIFY2(h.out.contains(needle), needle);
+}
+
+void EngineUsageTest::frontEndDefaultCommandLine()
+{
+    // What a freshly made settings record turns into.
+    const QString out = dir_.filePath("default.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--gui", "--order", "9", "--unpredistortion", "-pdfrp", out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY(QFile::exists(out));
+    QCOMPARE(r.err.count("PDF"), 1); // one warning line, and the run goes on
+    QVERIFY(r.out.trimmed().endsWith("[PROGRESS] 100.0"));
+}
+
+void EngineUsageTest::dffWithEmptyArtistAndTitle()
+{
+    const QString out = dir_.filePath("empty-tags.dff");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--artist", "", "--title", "", "--gui", out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY(QFile::exists(out));
+}
+
+void EngineUsageTest::unsupportedOptionsAllNamedBeforeOutput()
+{
+    const QString out = dir_.filePath("refused.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--gui", "--dst", "--eq", "1000,-3.0,1.0q", "--hrtf", "ms",
+                                   "--hrtf-mix", "0.500000", "--bass", "2.000000", "--equalizer", "100", "3", "50",
+                                   "--compressor", "-12.000000", "4.000000", "soft", "5.000000", "100.000000",
+                                   "--apo", "--crossfeed", "custom", "-6.000000", "-12.000000", "--zero", "0.1",
+                                   "0.2", out, "--surround", "15", "80", "side", "20"});
+    QCOMPARE(r.exitCode, 2);
+    for (const char* name : {"--dst", "--eq", "--hrtf", "--hrtf-mix", "--bass", "--equalizer", "--compressor",
+                             "--apo", "--crossfeed", "--zero", "--surround"})
+        QVERIFY2(r.err.contains(QString(name) + ",") || r.err.contains(QString(name) + "\n"), name);
+    // Values of refused options are not mistaken for options or outputs.
+    QVERIFY(!r.err.contains("unknown"));
+    QVERIFY(!QFile::exists(out));
+    QVERIFY(r.out.isEmpty()); // no progress before a refusal
+}
+
+void EngineUsageTest::unknownOptionRefused()
+{
+    const QString out = dir_.filePath("unknown.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--frobnicate", out});
+    QCOMPARE(r.exitCode, 2);
+    QVERIFY(r.err.contains("--frobnicate"));
+    QVERIFY(!QFile::exists(out));
+}
+
+void EngineUsageTest::badValuesRefused_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("mentioned");
+    QTest::newRow("track 0") << QStringList{"--track", "0"} << "--track";
+    QTest::newRow("track 999") << QStringList{"--track", "999"} << "--track";
+    QTest::newRow("oversampling 100") << QStringList{"--oversampling", "100"} << "--oversampling";
+    QTest::newRow("oversampling 16384") << QStringList{"--oversampling", "16384"} << "--oversampling";
+    QTest::newRow("oversampling text") << QStringList{"--oversampling", "abc"} << "--oversampling";
+    QTest::newRow("absdb text") << QStringList{"--absdb", "loud"} << "--absdb";
+    QTest::newRow("log topic") << QStringList{"--log", "everything"} << "--log";
+    QTest::newRow("filter type") << QStringList{"--filter-type", "sharp"} << "--filter-type";
+    QTest::newRow("window") << QStringList{"--window-type", "triangle"} << "--window-type";
+    QTest::newRow("two modulators") << QStringList{"--order", "9", "--cifb", "5"} << "modulator";
+    QTest::newRow("bit in forward mode") << QStringList{"--bit", "24"} << "--bit";
+}
+
+void EngineUsageTest::badValuesRefused()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, mentioned);
+    const QString out = dir_.filePath("bad-value.dsf");
+    const RunResult r = runEngine(QStringList{"-i", tone("in.wav")} + options + QStringList{out});
+    QCOMPARE(r.exitCode, 2);
+    QVERIFY2(r.err.contains(mentioned), qPrintable(r.err));
+    QVERIFY(!QFile::exists(out));
+}
+
+void EngineUsageTest::mashOrderIsOptional()
+{
+    // "--mash" directly before the output: the output is not taken as its
+    // order. Whatever the signal path then says about MASH (it may refuse
+    // it for 1-bit output), the command line itself must parse: the answer
+    // comes from the design, not from the option parser.
+    for (const QStringList& mash : {QStringList{"--mash"}, QStringList{"--mash", "3"}}) {
+        const QString out = dir_.filePath("mash.dsf");
+        const RunResult r = runEngine(QStringList{"-i", tone("in.wav")} + mash + QStringList{out});
+        if (r.exitCode == 0) {
+            QVERIFY(QFile::exists(out));
+            QFile::remove(out);
+            continue;
+        }
+        QCOMPARE(r.exitCode, 2);
+        QVERIFY2(r.err.contains("filter design refused"), qPrintable(r.err));
+        QVERIFY(!r.err.contains("no output"));
+        QVERIFY(!QFile::exists(out));
+    }
+}
+
+void EngineUsageTest::designErrorIsUsageError()
+{
+    // A stop band below the pass band cannot be designed.
+    const QString out = dir_.filePath("design.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--passband-cutoff", "20000", "--stopband-cutoff", "15000", out});
+    QCOMPARE(r.exitCode, 2);
+    QVERIFY(!r.err.trimmed().isEmpty());
+    QVERIFY(!QFile::exists(out));
+}
+
+void EngineUsageTest::outputEqualToInputRefused()
+{
+    // A WAV that carries a DSD extension, given as input and output.
+    const QString same = dir_.filePath("same.dsf");
+    QVERIFY(QFile::copy(tone("in.wav"), same));
+    const QByteArray before = [&] { QFile f(same); f.open(QIODevice::ReadOnly); return f.readAll(); }();
+    RunResult r = runEngine({"-i", same, same});
+    QCOMPARE(r.exitCode, 2);
+    QVERIFY(r.err.contains("input"));
+    // Through a symbolic link too.
+    const QString link = dir_.filePath("link.dsf");
+    QVERIFY(QFile::link(same, link));
+    r = runEngine({"-i", same, link});
+    QCOMPARE(r.exitCode, 2);
+    QFile f(same);
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    QCOMPARE(f.readAll(), before);
+}
+
+void EngineUsageTest::missingOutputFolder()
+{
+    const QString out = dir_.filePath("no/such/folder/out.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--gui", out});
+    QCOMPARE(r.exitCode, 1);
+    QVERIFY2(r.err.contains("folder"), qPrintable(r.err));
+    QVERIFY(!QFile::exists(dir_.filePath("no")));
+}
+
+void EngineUsageTest::writeErrorOnFullDevice()
+{
+    if (!QFile::exists("/dev/full"))
+        QSKIP("no /dev/full here");
+    // The extension picks the container; the symbolic link makes the
+    // engine write into a device that is always full.
+    const QString out = dir_.filePath("full.dsf");
+    QVERIFY(QFile::link("/dev/full", out));
+    const RunResult r = runEngine({"-i", tone("long.wav", 3.0), "--gui", out});
+    QCOMPARE(r.exitCode, 1);
+    QVERIFY2(r.err.contains("No space"), qPrintable(r.err));
+    QVERIFY(QFile::exists("/dev/full"));
+    QVERIFY(!r.out.contains("[PROGRESS] 100.0"));
+}
+
+void EngineUsageTest::badInputs_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("mentioned");
+    QTest::newRow("empty file") << "empty.wav" << QByteArray() << "empty.wav";
+    QTest::newRow("text as wav") << "text.wav" << QByteArray("this is not audio at all, just words\n").repeated(20) << "text.wav";
+    QTest::newRow("truncated header") << "cut.wav" << QByteArray("RIFF\x24\x10\x00\x00WAVEfmt ", 16) << "cut.wav";
+    QTest::newRow("m4a") << "song.m4a" << QByteArray(64, 'x') << "MPEG-4";
+    QTest::newRow("ape") << "song.ape" << QByteArray(64, 'x') << "Monkey";
+    QTest::newRow("wavpack") << "song.wv" << QByteArray(64, 'x') << "WavPack";
+    QTest::newRow("missing") << "" << QByteArray() << "does-not-exist.wav";
+}
+
+void EngineUsageTest::badInputs()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, mentioned);
+    QString input = dir_.filePath("does-not-exist.wav");
+    if (!name.isEmpty()) {
+        input = dir_.filePath(name);
+        QFile f(input);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(content);
+    }
+    const QString out = dir_.filePath("from-bad-input.dsf");
+    const RunResult r = runEngine({"-i", input, "--gui", out});
+    QCOMPARE(r.exitCode, 1);
+    QVERIFY2(r.err.contains(mentioned), qPrintable(r.err));
+    QVERIFY(!QFile::exists(out));
+}
+
+void EngineUsageTest::logFileThatCannotBeOpenedIsAWarning()
+{
+    const QString out = dir_.filePath("log-warning.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--log-file", dir_.filePath("missing/dir/engine.log"), out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY(r.err.contains("log"));
+    QVERIFY(QFile::exists(out));
+}
+
+QTEST_GUILESS_MAIN(EngineUsageTest)
+#include "tst_engine_usage.moc"

@@ -48,6 +48,8 @@ int main(int argc, char** argv)
 
     auto window = std::make_unique<MainWindow>();
     window->ensureEngineLogPath();
+    if (qEnvironmentVariableIsSet("ZUVO_AI_AUTORUN"))
+        window->runAutorun(qEnvironmentVariable("ZUVO_AI_AUTORUN"), qEnvironmentVariableIsSet("ZUVO_AI_AUTOCLOSE"));
     window->show();
 
     const QString shotPath = qEnvironmentVariable("ZUVO_GUI_SHOT");

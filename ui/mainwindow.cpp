@@ -1,16 +1,21 @@
 #include "mainwindow.h"
 
-#include <QDir>
 #include <QFileInfo>
+#include <QProgressBar>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include "conversion_queue.h"
+#include "engine_args.h"
 #include "engine_discovery.h"
 #include "engine_log.h"
+#include "file_list_widget.h"
+#include "io_panel.h"
 #include "log_pane.h"
+#include "run_controls.h"
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -18,6 +23,8 @@ MainWindow::MainWindow(QWidget* parent)
     setWindowTitle(tr("Zuvo Audio Suite — 音频转换工具"));
     resize(1180, 760);
     buildUi();
+
+    setArgNoteSink([this](const char* line) { appendLog(QString::fromUtf8(line)); });
 
     pollTimer_ = new QTimer(this);
     pollTimer_->setInterval(150);
@@ -27,16 +34,57 @@ MainWindow::MainWindow(QWidget* parent)
     locateEngine();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    setArgNoteSink(nullptr);
+    queue_->shutDown();
+    // The queue (and with it the conversion session) goes last, with the window's children.
+}
 
 void MainWindow::buildUi()
 {
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
-    log_ = new LogPane(central);
-    layout->addWidget(log_, 1);
+    io_ = new InputOutputPanel(central);
+    run_ = new RunControlsPanel(central);
+    layout->addWidget(io_, 0);
+    layout->addWidget(run_, 1);
     setCentralWidget(central);
     statusBar();
+
+    queue_ = new ConversionQueue(this);
+    connect(queue_, &ConversionQueue::logLine, this, &MainWindow::appendLog);
+    connect(queue_, &ConversionQueue::progressChanged, run_->progress(), &QProgressBar::setValue);
+    connect(queue_, &ConversionQueue::runningChanged, run_, &RunControlsPanel::setRunning);
+    connect(queue_, &ConversionQueue::fileStateChanged, this, [this](int index, int state) {
+        using S = FileListWidget::State;
+        const S shown = state == ConversionQueue::Running ? S::Running
+                        : state == ConversionQueue::Done  ? S::Done
+                        : state == ConversionQueue::Failed ? S::Failed
+                                                            : S::Stopped;
+        io_->fileList()->setState(index, shown);
+    });
+    connect(queue_, &ConversionQueue::queueFinished, this, &MainWindow::onQueueFinished);
+
+    connect(run_, &RunControlsPanel::startClicked, this, &MainWindow::startConversion);
+    connect(run_, &RunControlsPanel::stopClicked, this, &MainWindow::stopConversion);
+    connect(io_, &InputOutputPanel::pathsOffered, this, &MainWindow::addPaths);
+    connect(io_, &InputOutputPanel::outputFileChosen, this,
+            [this](const QString& path) { appendLog(tr("设置输出文件: %1").arg(path)); });
+    connect(io_, &InputOutputPanel::emptyFolderChosen, this,
+            [this] { statusBar()->showMessage(tr("目录中没有音频文件"), 4000); });
+    connect(io_, &InputOutputPanel::removeRequested, this, [this] {
+        if (refuseWhileConverting(tr("转换进行中, 不能修改文件列表")))
+            return;
+        io_->fileList()->removeSelected();
+        io_->updateCount();
+    });
+    connect(io_, &InputOutputPanel::clearRequested, this, [this] {
+        if (refuseWhileConverting(tr("转换进行中, 不能修改文件列表")))
+            return;
+        io_->fileList()->clearAll();
+        io_->updateCount();
+    });
 }
 
 void MainWindow::locateEngine()
@@ -62,10 +110,20 @@ QString MainWindow::ensureEngineLogPath()
 
 void MainWindow::appendLog(const QString& text, bool isError)
 {
-    log_->append(text, isError);
+    run_->log()->append(text, isError);
+}
+
+bool MainWindow::refuseWhileConverting(const QString& message)
+{
+    if (!queue_->isConverting())
+        return false;
+    statusBar()->showMessage(message, 3000);
+    return true;
 }
 
 void MainWindow::onPollTimer()
 {
-    // Sessions are polled and their inboxes drained here, on the GUI thread.
+    // Sessions report from their own threads into inboxes; this is where the
+    // GUI thread picks their news up.
+    queue_->poll();
 }

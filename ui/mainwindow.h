@@ -3,9 +3,14 @@
 #include <QString>
 #include <memory>
 
+#include "conversion_settings.h"
+
+class ConversionQueue;
+class InputOutputPanel;
 class QTemporaryDir;
 class QTimer;
-class LogPane;
+class RunControlsPanel;
+struct StartProblem;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -18,18 +23,33 @@ public:
 
     // Decides the engine log file for this run (once) and returns it.
     QString ensureEngineLogPath();
-    QString engineLogFile() const { return engineLogPath_; }
     QString probeLogFile() const { return probeLogPath_; }
+
+    // Queues `inputs` and converts them into `output` (a folder when it is an
+    // existing directory or ends with "/", else a file), as if a user had.
+    void runAutorun(const QString& value, bool closeWhenDone);
+
+    void startConversion();
+    void stopConversion();
 
 private:
     void buildUi();
     void locateEngine();
     void onPollTimer();
+    ConversionSettings collectSettings();
+    void addPaths(const QStringList& paths);
+    bool refuseWhileConverting(const QString& message);
+    void showStartProblem(const StartProblem& problem);
+    void onQueueFinished(int doneCount, int failedCount, bool stopped, const QString& outputFolder);
 
-    LogPane* log_ = nullptr;
+    InputOutputPanel* io_ = nullptr;
+    RunControlsPanel* run_ = nullptr;
+    ConversionQueue* queue_ = nullptr;
     QTimer* pollTimer_ = nullptr;
+    ConversionSettings settings_;
     QString enginePath_;
     QString engineLogPath_;
     QString probeLogPath_;
     std::unique_ptr<QTemporaryDir> engineLogTempDir_;
+    bool closeAfterAutorun_ = false;
 };

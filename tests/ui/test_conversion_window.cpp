@@ -1,0 +1,299 @@
+// The conversion feature seen from outside: a queue driven through the
+// automation hook against the scripted engine, once as a child process and
+// once inside the program, checked by the log mirror, the file list marks,
+// the progress bar and the engine's recorded argument lists.
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "conversion_queue.h"
+#include "file_list_widget.h"
+#include "io_panel.h"
+#include "mainwindow.h"
+
+namespace {
+
+struct Harness {
+    QTemporaryDir dir;
+    QString mirror = dir.filePath("gui.log");
+    QString script = dir.filePath("script.txt");
+    QString argsFile = dir.filePath("args.jsonl");
+    QString engineLog = dir.filePath("engine.log");
+    QString outDir = dir.filePath("out");
+
+    explicit Harness(bool inProcess, const QString& scriptText)
+    {
+        QFile f(script);
+        f.open(QIODevice::WriteOnly);
+        f.write(scriptText.toUtf8());
+        f.close();
+        qputenv("ZUVO_GUI_INPROC", inProcess ? "1" : "0");
+        qputenv("ZUVO_ENGINE_BIN", FAKE_ENGINE_PATH);
+        qputenv("ZUVO_FAKE_SCRIPT", QFile::encodeName(script));
+        qputenv("ZUVO_FAKE_ARGS", QFile::encodeName(argsFile));
+        qputenv("ZUVO_AI_GUI_LOG", QFile::encodeName(mirror));
+        qputenv("ZUVO_ENGINE_LOG", QFile::encodeName(engineLog));
+    }
+
+    QString input(const QString& name)
+    {
+        const QString path = dir.filePath(name);
+        QFile f(path);
+        f.open(QIODevice::WriteOnly);
+        f.write("not really audio: the scripted engine never reads it");
+        return path;
+    }
+
+    QString autorun(const QStringList& names)
+    {
+        QStringList parts;
+        for (const QString& n : names)
+            parts << input(n);
+        return parts.join('|') + '|' + outDir + '/';
+    }
+
+    QString log() const
+    {
+        QFile f(mirror);
+        f.open(QIODevice::ReadOnly);
+        return QString::fromUtf8(f.readAll());
+    }
+
+    QList<QStringList> recordedRuns() const
+    {
+        QList<QStringList> runs;
+        QFile f(argsFile);
+        if (!f.open(QIODevice::ReadOnly))
+            return runs;
+        for (const QByteArray& line : f.readAll().split('\n')) {
+            if (line.isEmpty())
+                continue;
+            QStringList args;
+            for (const QJsonValue& v : QJsonDocument::fromJson(line).array())
+                args << v.toString();
+            runs << args;
+        }
+        return runs;
+    }
+};
+
+QStringList marks(MainWindow& w)
+{
+    QStringList out;
+    auto* list = w.findChild<FileListWidget*>();
+    for (int i = 0; i < list->count(); ++i)
+        out << list->item(i)->text().left(2);
+    return out;
+}
+
+int progress(MainWindow& w)
+{
+    return w.findChild<QProgressBar*>()->value();
+}
+
+bool converting(MainWindow& w)
+{
+    return w.findChild<ConversionQueue*>()->isConverting();
+}
+
+// Drops what only an in-process run adds, so both kinds compare alike.
+QStringList withoutHostOptions(QStringList args)
+{
+    const int host = args.indexOf("-inproc-host");
+    if (host >= 0)
+        args = args.mid(0, host);
+    return args;
+}
+
+} // namespace
+
+class TestConversionWindow : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(settings_.isValid());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings_.path());
+        qputenv("ZUVO_NO_UPDATE_CHECK", "1");
+    }
+
+    void sessionKinds_data()
+    {
+        QTest::addColumn<bool>("inProcess");
+        QTest::newRow("child process") << false;
+        QTest::newRow("in process") << true;
+    }
+
+    void failedFileDoesNotStopTheQueue_data() { sessionKinds_data(); }
+    void failedFileDoesNotStopTheQueue()
+    {
+        QFETCH(bool, inProcess);
+        Harness h(inProcess, "out working\n"
+                             "[run 2]\n"
+                             "log first engine log line\n"
+                             "log   the reason it failed  \n"
+                             "err cannot read input\n"
+                             "exit 7\n");
+        MainWindow w;
+        w.runAutorun(h.autorun({"a.wav", "b.wav", "c.flac"}), false);
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 15000);
+
+        QCOMPARE(marks(w), (QStringList{"✓ ", "✗ ", "✓ "}));
+        const QString log = h.log();
+        QVERIFY2(log.contains("[log] ✓ a.wav 完成\n"), qPrintable(log));
+        QVERIFY(log.contains("[err] ✗ 退出码: 7\n"));
+        QVERIFY(log.contains("[err] ── 引擎日志 (末尾 2 行): " + h.engineLog + " ──\n"));
+        QVERIFY(log.contains("[err]   the reason it failed\n"));
+        QVERIFY(log.contains("[log] ✓ c.flac 完成\n"));
+        QVERIFY(log.contains("完成: 2 OK, 1 失败"));
+        // Engine standard error is shown as an error line, standard output as a normal one.
+        if (!inProcess)
+            QVERIFY(log.contains("[err] cannot read input\n"));
+        QVERIFY(log.contains("[log] working\n"));
+        QVERIFY(log.contains(inProcess ? "[log] 转换会话: 进程内(直接调库)" : "[log] 转换会话: 子进程(起 CLI)"));
+
+        const QList<QStringList> runs = h.recordedRuns();
+        QCOMPARE(runs.size(), 3);
+        const QString a = h.dir.filePath("a.wav");
+        QCOMPARE(withoutHostOptions(runs[0]).mid(1),
+                 (QStringList{"-i", a, "--gui", "--log-file", h.engineLog, "--order", "9", "--unpredistortion",
+                              "-pdfrp", h.outDir + "/a.dsf"}));
+        QCOMPARE(withoutHostOptions(runs[2]).last(), h.outDir + "/c.dsf");
+        QCOMPARE(runs[0].contains("-inproc-host"), inProcess);
+        QVERIFY(log.contains("[log] 执行: " + QString(FAKE_ENGINE_PATH) + " -i " + a + " --gui"));
+    }
+
+    void progressMovesPerMille_data()
+    {
+        QTest::addColumn<bool>("inProcess");
+        QTest::addColumn<int>("files");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("single, child") << false << 1 << 425;
+        QTest::newRow("single, in process") << true << 1 << 425;
+        QTest::newRow("second of four, child") << false << 4 << 356;
+        QTest::newRow("second of four, in process") << true << 4 << 356;
+    }
+    void progressMovesPerMille()
+    {
+        QFETCH(bool, inProcess);
+        QFETCH(int, files);
+        QFETCH(int, expected);
+        const QString slowRun = "err [PROGRESS] 10\nsleep 100\nout [PROGRESS] 42.5\nsleep 1500\nexit 0\n";
+        Harness h(inProcess, files == 1 ? slowRun : "exit 0\n[run 2]\n" + slowRun);
+        QStringList names;
+        for (int i = 0; i < files; ++i)
+            names << QString("f%1.wav").arg(i);
+        MainWindow w;
+        w.runAutorun(h.autorun(names), false);
+        QTRY_COMPARE_WITH_TIMEOUT(progress(w), expected, 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 15000);
+        QCOMPARE(progress(w), 1000);
+        const QString log = h.log();
+        QVERIFY(!log.contains("[PROGRESS] 42.5"));
+        // Only a child process keeps standard error apart: there the line is
+        // logged as an error and moves nothing; in process it is one stream.
+        if (inProcess)
+            QVERIFY(!log.contains("[PROGRESS]"));
+        else
+            QVERIFY(log.contains("[err] [PROGRESS] 10\n"));
+    }
+
+    void stopKillsAChildProcessAndKeepsItsOutput()
+    {
+        Harness h(false, "touch-output\nout [PROGRESS] 10\nsleep 20000\n");
+        MainWindow w;
+        w.runAutorun(h.autorun({"a.wav", "b.wav"}), false);
+        QTRY_COMPARE_WITH_TIMEOUT(progress(w), 50, 10000);
+        w.stopConversion();
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
+        const QString log = h.log();
+        QVERIFY2(log.contains("[log] 终止当前转换进程…\n"), qPrintable(log));
+        QVERIFY(log.contains("[log] ■ 已停止(强制结束进程): a.wav\n"));
+        QVERIFY(log.contains("[log] 停止: 剩余 1 个文件已跳过\n"));
+        QVERIFY(log.contains("[log] 转换已停止\n"));
+        QVERIFY(QFile::exists(h.outDir + "/a.dsf"));
+        QCOMPARE(h.recordedRuns().size(), 1);
+        QCOMPARE(marks(w).first(), QString("■ "));
+    }
+
+    void stopConfirmedInProcessDeletesThePartialOutput()
+    {
+        Harness h(true, "touch-output\nout [PROGRESS] 10\nwait-stop 20000 195\n");
+        MainWindow w;
+        w.runAutorun(h.autorun({"a.wav"}), false);
+        QTRY_COMPARE_WITH_TIMEOUT(progress(w), 100, 10000);
+        QVERIFY(QFile::exists(h.outDir + "/a.dsf"));
+        w.stopConversion();
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
+        const QString log = h.log();
+        QVERIFY2(log.contains("[log] 正在通知引擎停止…\n"), qPrintable(log));
+        QVERIFY(log.contains("[log] ■ 已停止: a.wav (未完成的文件已删除)\n"));
+        QVERIFY(!log.contains("剩余"));
+        QVERIFY(!log.contains("没有确认停止"));
+        QVERIFY(!QFile::exists(h.outDir + "/a.dsf"));
+    }
+
+    void stopNotConfirmedInProcessWarnsAndKeepsWaiting()
+    {
+        Harness h(true, "out [PROGRESS] 10\nsleep 3500\nexit 0\n");
+        MainWindow w;
+        w.runAutorun(h.autorun({"a.wav"}), false);
+        QTRY_COMPARE_WITH_TIMEOUT(progress(w), 100, 10000);
+        QElapsedTimer t;
+        t.start();
+        w.stopConversion();
+        QTRY_VERIFY_WITH_TIMEOUT(h.log().contains("[err] 引擎 2 秒内没有确认停止 —— 仍在收尾(可再点一次, 或关闭程序)。\n"), 5000);
+        QVERIFY(t.elapsed() >= 1900);
+        QVERIFY(converting(w));
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
+        QVERIFY(h.log().contains("[log] 转换已停止\n"));
+    }
+
+    void stopWithNothingRunningOnlyLogs()
+    {
+        Harness h(true, "exit 0\n");
+        MainWindow w;
+        w.stopConversion();
+        QVERIFY(h.log().contains("[log] 当前没有运行的进程\n"));
+    }
+
+    void fileListRefusesDuplicatesAndEditsWhileConverting()
+    {
+        Harness h(false, "sleep 3000\nexit 0\n");
+        MainWindow w;
+        auto* io = w.findChild<InputOutputPanel*>();
+        auto* list = w.findChild<FileListWidget*>();
+        const QString a = h.input("Song.wav");
+        const QString b = h.input("other.flac");
+        emit io->pathsOffered({a, h.dir.filePath("SONG.WAV"), b, b, h.dir.filePath("missing.wav")});
+        QCOMPARE(list->paths(), (QStringList{a, b}));
+        QVERIFY(h.log().contains("[log] 已添加 2 个文件\n[log] 已跳过 2 个重复文件\n"));
+        QVERIFY(w.findChild<QLabel*>("fileCount")->text() == "2 个文件");
+
+        w.runAutorun(h.input("third.wav") + '|' + h.outDir + '/', false);
+        QTRY_VERIFY_WITH_TIMEOUT(converting(w), 5000);
+        emit io->pathsOffered({h.input("late.wav")});
+        emit io->clearRequested();
+        QCOMPARE(list->count(), 3);
+        QCOMPARE(w.statusBar()->currentMessage(), QString("转换进行中, 不能修改文件列表"));
+        w.stopConversion();
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
+        emit io->clearRequested();
+        QCOMPARE(list->count(), 0);
+        QCOMPARE(w.findChild<QLabel*>("fileCount")->text(), QString("0 个文件"));
+    }
+
+private:
+    QTemporaryDir settings_;
+};
+
+QTEST_MAIN(TestConversionWindow)
+#include "test_conversion_window.moc"

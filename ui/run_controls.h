@@ -1,0 +1,32 @@
+#pragma once
+#include <QWidget>
+
+class LogPane;
+class QCheckBox;
+class QProgressBar;
+class QPushButton;
+
+// The bottom of the main window: start/stop, the log switches, the queue's
+// progress bar and the log pane.
+class RunControlsPanel : public QWidget {
+    Q_OBJECT
+public:
+    explicit RunControlsPanel(QWidget* parent = nullptr);
+
+    LogPane* log() const { return log_; }
+    QProgressBar* progress() const { return progress_; }
+    bool verbose() const;
+    void setRunning(bool running);
+
+signals:
+    void startClicked();
+    void stopClicked();
+
+private:
+    QPushButton* start_ = nullptr;
+    QPushButton* stop_ = nullptr;
+    QCheckBox* verbose_ = nullptr;
+    QCheckBox* keepLog_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    LogPane* log_ = nullptr;
+};

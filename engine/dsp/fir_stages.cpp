@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "simd_kernels.h"
+
 namespace zuvo::dsp::detail {
 
 PolyphaseStage::PolyphaseStage(const std::vector<double>& h, int L, int M, double gain)
@@ -32,11 +34,7 @@ void PolyphaseStage::process(const double* in, std::size_t n, std::vector<double
         const int p = int(t - i * L_);
         const double* x = buf_.data() + (i - P + 1 - base_);
         const double* c = table_.data() + std::size_t(p) * P;
-        double acc = 0;
-#pragma omp simd reduction(+ : acc)
-        for (int j = 0; j < P; ++j)
-            acc += c[j] * x[j];
-        out.push_back(acc);
+        out.push_back(dot(c, x, P));
         ++next_;
     }
     // Keep only the history the next output needs.
@@ -75,16 +73,11 @@ void HalfbandInterpolator::process(const double* in, std::size_t n, std::vector<
         work_.resize(H + m);
         std::memcpy(work_.data(), hist_.data(), H * sizeof(double));
         std::memcpy(work_.data() + H, in + done, m * sizeof(double));
-        even_.assign(m, 0.0);
-        double* e = even_.data();
+        even_.resize(m);
         const double* w = work_.data();
-        for (int k = 0; k < K2_; ++k) {
-            const double gk = g_[k];
-            const double* xs = w + H - k;
-#pragma omp simd
-            for (std::size_t i = 0; i < m; ++i)
-                e[i] += gk * xs[i];
-        }
+        // g_ is stored so that g_[k] multiplies x[i-k].
+        firOuter(w + H, g_.data(), K2_, even_.data(), m);
+        const double* e = even_.data();
         const double* d = w + H - delay_;
         for (std::size_t i = 0; i < m; ++i) {
             o[2 * i] = e[i];

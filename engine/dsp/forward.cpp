@@ -5,6 +5,7 @@
 #include "fir_design.h"
 #include "fir_stages.h"
 #include "modulator.h"
+#include "simd_kernels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -261,7 +262,15 @@ struct ChannelEncoder::Impl {
         bits.resize(m);
         mod.run(a.data() + off, m, bits.data());
         outCount += m;
-        for (std::size_t i = 0; i < m; ++i) {
+        std::size_t i = 0;
+        if (nacc == 0) {
+            const std::size_t whole = m / 8;
+            const std::size_t o = out.size();
+            out.resize(o + whole);
+            packBits(bits.data(), whole, out.data() + o);
+            i = whole * 8;
+        }
+        for (; i < m; ++i) {
             acc = (acc << 1) | bits[i];
             if (++nacc == 8) {
                 out.push_back(std::uint8_t(acc));

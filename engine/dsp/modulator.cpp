@@ -532,14 +532,16 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
     d.limit.resize(d.n);
     for (int i = 0; i < d.n; ++i)
         d.limit[i] = 2.0 * std::max(ms[i], base[i]);
+    buildBlockKernel(d, d.kernel);
     return true;
 }
 
 ModulatorRunner::ModulatorRunner(const ModulatorDesign* d)
     : d_(d)
 {
-    x_.assign(d->n, 0.0);
-    xn_.assign(d->n, 0.0);
+    const int np = std::max(d->n, d->kernel.np);
+    x_.assign(np, 0.0);
+    xn_.assign(np, 0.0);
     maxAbsState.assign(d->n, 0.0);
 }
 
@@ -550,6 +552,36 @@ void ModulatorRunner::reset()
 }
 
 void ModulatorRunner::run(const double* u, std::size_t n, std::uint8_t* bits)
+{
+    if (track || !clipping || d_->kernel.np == 0) {
+        runSamples(u, n, bits);
+        return;
+    }
+    constexpr std::uint32_t kWindow = 1024;
+    std::size_t done = 0;
+    while (n - done >= std::size_t(kBlock)) {
+        std::size_t nb = (n - done) / kBlock;
+        const std::uint32_t room = windowCount_ < kWindow ? (kWindow - windowCount_) / kBlock : 0;
+        nb = std::min<std::size_t>(nb, std::max<std::uint32_t>(room, 1));
+        flags_.resize(nb);
+        const std::size_t c = runBlocks(d_->kernel, x_.data(), u + done, nb, bits + done, flags_.data());
+        overloads += c;
+        windowClipped_ += std::uint32_t(c) * kBlock;
+        windowCount_ += std::uint32_t(nb) * kBlock;
+        done += nb * kBlock;
+        if (windowCount_ >= kWindow) {
+            if (windowClipped_ > 64) {
+                std::fill(x_.begin(), x_.end(), 0.0);
+                ++resets;
+            }
+            windowCount_ = windowClipped_ = 0;
+        }
+    }
+    if (done < n)
+        runSamples(u + done, n - done, bits + done);
+}
+
+void ModulatorRunner::runSamples(const double* u, std::size_t n, std::uint8_t* bits)
 {
     const int N = d_->n;
     const double* A = d_->A.data();

@@ -7,6 +7,7 @@
 
 #include "dsd_pipeline.h"
 #include "dsp_math.h"
+#include "mod_kernel.h"
 
 #include <cstdint>
 #include <string>
@@ -38,7 +39,7 @@ struct ModulatorDesign {
     std::vector<double> limit;      // per-state clip levels
     Ntf ntf;
     double maxStable = 0;           // largest sine amplitude (at the modulator input) that stays stable
-    double rmsStateAtMax = 0;
+    BlockKernel kernel;             // fast form of the same loop
 
     cplx loopU(double f) const;     // u -> y
     cplx loopV(double f) const;     // v -> y
@@ -66,7 +67,9 @@ public:
 
 private:
     const ModulatorDesign* d_;
+    void runSamples(const double* u, std::size_t n, std::uint8_t* bits);
     std::vector<double> x_, xn_;
+    std::vector<std::uint8_t> flags_;
     std::uint32_t windowCount_ = 0, windowClipped_ = 0;
 };
 

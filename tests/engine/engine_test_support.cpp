@@ -83,6 +83,14 @@ QJsonObject ffprobe(const QString& path)
     return QJsonDocument::fromJson(p.readAllStandardOutput()).object();
 }
 
+bool dsdDurationMatches(const QJsonObject& probe, double expected, int dsdRate)
+{
+    const double d = probe["format"].toObject()["duration"].toString().toDouble();
+    const bool dsf = probe["format"].toObject()["format_name"].toString() == "dsf";
+    const double slack = dsf ? 4096.0 * 8.0 / dsdRate : 0.0;
+    return d >= expected - 0.002 && d <= expected + slack + 0.002;
+}
+
 bool ffmpegDecode(const QString& path, int rate, int channels, std::vector<std::vector<double>>& out)
 {
     QProcess p;

@@ -29,6 +29,10 @@ bool writePcm(const QString& path, int rate, int channels, long frames, int sfFo
 bool readPcm(const QString& path, int& rate, std::vector<std::vector<double>>& channels);
 
 QJsonObject ffprobe(const QString& path); // {"streams": [...], "format": {...}}
+// ffprobe's duration of a DSD file against the expected one. DSF pads its
+// last block of 4096 bytes per channel, and ffmpeg counts the padding, so a
+// DSF may read up to one block (plus rounding) longer.
+bool dsdDurationMatches(const QJsonObject& probe, double expected, int dsdRate);
 // Decodes any file with ffmpeg to doubles at `rate`, per channel.
 bool ffmpegDecode(const QString& path, int rate, int channels, std::vector<std::vector<double>>& out);
 

@@ -147,4 +147,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestStartChecks)
-#include "test_start_checks.moc"
+#include "tst_start_checks.moc"

@@ -103,6 +103,10 @@ int runForward(RunContext& ctx)
     if (o.metadataFromInput)
         tags.fillEmptyFrom(reader.tags());
 
+    ctx.log.line("tags: artist '%s', title '%s', album '%s', genre '%s', year '%s', track %d, comment '%s'",
+                 tags.artist.c_str(), tags.title.c_str(), tags.album.c_str(), tags.genre.c_str(), tags.year.c_str(),
+                 tags.track, tags.comment.c_str());
+
     const dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
     auto design = dsp::designForward(config, &error);
     if (!design) {
@@ -119,7 +123,7 @@ int runForward(RunContext& ctx)
     ctx.log.line("applied gain %.6f, pass-band ripple %.4f dB, image rejection %.1f dB, max stable input %.2f dBFS",
                  summary.appliedGain, summary.passbandRippleDb, summary.stopbandAttenuationDb, summary.maxStableInputDbfs);
     if (o.verbose || !o.logTopics.empty())
-        std::fprintf(stdout, "%s\n", summary.text.c_str());
+        std::fprintf(stderr, "%s\n", summary.text.c_str());
 
     if (!outputFolderExists(o.output, &error)) {
         report(ctx, "%s", error.c_str());

@@ -27,7 +27,7 @@ void detail(RunContext& ctx, const char* format, ...)
 {
     va_list ap;
     va_start(ap, format);
-    emit(ctx, ctx.options.verbose ? stdout : nullptr, format, ap);
+    emit(ctx, ctx.options.verbose ? stderr : nullptr, format, ap);
     va_end(ap);
 }
 

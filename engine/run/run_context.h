@@ -23,8 +23,8 @@ struct RunContext {
 
 // Problems: "ZuvoEngine: ..." on standard error, copied to the log.
 void report(RunContext& ctx, const char* format, ...) __attribute__((format(printf, 2, 3)));
-// Information: on standard output with --verbose (the front-end shows
-// standard error as errors), always in the log.
+// Detail: on standard error with --verbose, always in the log. Standard
+// output stays for progress and the --report figures.
 void detail(RunContext& ctx, const char* format, ...) __attribute__((format(printf, 2, 3)));
 
 } // namespace zuvo::run

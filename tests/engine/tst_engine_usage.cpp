@@ -32,6 +32,7 @@ private slots:
     void badInputs_data();
     void badInputs();
     void logFileThatCannotBeOpenedIsAWarning();
+    void sevenChannelsNeedDff();
 
 private:
     QString tone(const QString& name, double seconds = 0.25);
@@ -256,6 +257,17 @@ void EngineUsageTest::logFileThatCannotBeOpenedIsAWarning()
     QVERIFY2(r.exitCode == 0, qPrintable(r.err));
     QVERIFY(r.err.contains("log"));
     QVERIFY(QFile::exists(out));
+}
+
+void EngineUsageTest::sevenChannelsNeedDff()
+{
+    const QString in = dir_.filePath("seven.wav");
+    QVERIFY(writePcm(in, 48000, 7, 4800, SF_FORMAT_WAVEX | SF_FORMAT_PCM_16, [](long, int) { return 0.0; }));
+    const QString out = dir_.filePath("seven.dsf");
+    const RunResult r = runEngine({"-i", in, out});
+    QCOMPARE(r.exitCode, 2);
+    QVERIFY2(r.err.contains(".dff"), qPrintable(r.err));
+    QVERIFY(!QFile::exists(out));
 }
 
 QTEST_GUILESS_MAIN(EngineUsageTest)

@@ -12,6 +12,7 @@
 #include <sndfile.h>
 
 #include "engine_test_support.h"
+#include "io/dsd_writer.h"
 
 using namespace enginetest;
 
@@ -55,6 +56,7 @@ private slots:
     void reverseToFlacJoinsInputs();
     void dxd();
     void stopOnStdin();
+    void reverseStopOnStdin();
 
 private:
     QString makeInput(const QString& name, int rate, int channels, double seconds, int format);
@@ -354,6 +356,42 @@ void EngineConvertTest::stopOnStdin()
     std::vector<std::vector<double>> pcm;
     QVERIFY(ffmpegDecode(out, 44100, 2, pcm));
     QVERIFY(std::fabs(double(pcm[0].size()) / 44100 - d) < 0.05);
+}
+
+void EngineConvertTest::reverseStopOnStdin()
+{
+    // A long silent DSD64 file, written directly by the file layer.
+    const QString dsf = dir_.filePath("long-silence.dsf");
+    {
+        auto writer = zuvo::io::makeDsdWriter(zuvo::io::DsdContainer::Dsf);
+        std::string error;
+        QVERIFY(writer->open(dsf.toStdString(), {2, 2822400}, {}, &error));
+        const std::vector<std::vector<std::uint8_t>> second(2, std::vector<std::uint8_t>(352800, 0x69));
+        for (int s = 0; s < 60; ++s)
+            QVERIFY(writer->write(second, &error));
+        QVERIFY(writer->finalize(&error));
+    }
+    const QString out = dir_.filePath("long-silence.wav");
+    QProcess p;
+    p.start(enginePath(), {"--reverse", "-i", dsf, "--gui", out});
+    QVERIFY(p.waitForStarted());
+    QElapsedTimer t;
+    t.start();
+    QByteArray seen;
+    while (!seen.contains("[PROGRESS]") && t.elapsed() < 20000 && p.state() == QProcess::Running) {
+        p.waitForReadyRead(100);
+        seen += p.readAllStandardOutput();
+    }
+    if (p.state() != QProcess::Running)
+        QSKIP("the decimator finished 60 s before the first progress report");
+    p.write("stop\n");
+    QVERIFY(p.waitForFinished(15000));
+    QCOMPARE(p.exitCode(), 195);
+    int rate = 0;
+    std::vector<std::vector<double>> pcm;
+    QVERIFY(readPcm(out, rate, pcm));
+    QCOMPARE(pcm.size(), std::size_t(2));
+    QVERIFY(pcm[0].size() < std::size_t(60) * std::size_t(rate));
 }
 
 QTEST_GUILESS_MAIN(EngineConvertTest)

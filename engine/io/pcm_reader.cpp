@@ -74,12 +74,26 @@ bool PcmReader::open(const std::string& path, std::string* error)
     info_.formatName = std::string(major.name ? major.name : "?") + " / " + (sub.name ? sub.name : "?");
 
     // libsndfile shortens a stream whose header claims more than the file
-    // holds and says so only in its log.
-    char log[4096] = {};
+    // holds and says so only in its log ("data : N (should be M)"). A size
+    // of 0 or all ones is a placeholder left by a streaming writer, not
+    // damage; any other shortfall means the file was cut.
+    char log[8192] = {};
     sf_command(h, SFC_GET_LOG_INFO, log, sizeof log);
     const std::string text(log);
-    info_.looksTruncated = text.find("should be") != std::string::npos
-        || text.find("truncated") != std::string::npos || text.find("larger than") != std::string::npos;
+    for (std::size_t pos = text.find("(should be "); pos != std::string::npos; pos = text.find("(should be ", pos + 1)) {
+        const std::size_t lineStart = text.rfind('\n', pos) + 1;
+        const std::size_t colon = text.find(':', lineStart);
+        if (colon == std::string::npos || colon > pos)
+            continue;
+        const unsigned long long declared = std::strtoull(text.c_str() + colon + 1, nullptr, 10);
+        const unsigned long long actual = std::strtoull(text.c_str() + pos + 11, nullptr, 10);
+        const bool placeholder = declared == 0 || declared >= 0x7FFFFFFFull;
+        if (declared > actual && !placeholder) {
+            info_.truncated = true;
+            info_.declaredBytes = declared;
+            info_.presentBytes = actual;
+        }
+    }
     // Integer input is scaled to +-1.0; float input keeps its values so
     // overs above full scale are seen, not wrapped.
     sf_command(h, SFC_SET_NORM_DOUBLE, nullptr, SF_TRUE);

@@ -15,7 +15,9 @@ struct PcmStreamInfo {
     int sampleRate = 0;
     std::int64_t frames = 0;     // as the file declares it
     std::string formatName;      // e.g. "WAV (Microsoft) / Signed 24 bit PCM"
-    bool looksTruncated = false; // the file holds less data than its header says
+    bool truncated = false;      // the file holds less audio than its header declares
+    unsigned long long declaredBytes = 0;
+    unsigned long long presentBytes = 0;
 };
 
 // Extensions of formats this engine cannot decode, with their names, so the

@@ -34,6 +34,11 @@ int runDxd(RunContext& ctx)
         report(ctx, "%s has %d channels; this engine takes 1 to 8", input.c_str(), in.channels);
         return kExitFailure;
     }
+    if (in.truncated) {
+        report(ctx, "%s is truncated: its header declares %llu bytes of audio and the file holds %llu",
+               input.c_str(), in.declaredBytes, in.presentBytes);
+        return kExitFailure;
+    }
     const auto ch = static_cast<std::size_t>(in.channels);
     std::vector<dsp::ChannelResampler> resamplers;
     for (std::size_t c = 0; c < ch; ++c) {

@@ -95,9 +95,11 @@ int runForward(RunContext& ctx)
                io::maxChannels(container), input.c_str(), in.channels);
         return kExitUsage;
     }
-    if (in.looksTruncated)
-        report(ctx, "warning: %s holds less audio than its header says (truncated file?); converting what is there",
-               input.c_str());
+    if (in.truncated) {
+        report(ctx, "%s is truncated: its header declares %llu bytes of audio and the file holds %llu",
+               input.c_str(), in.declaredBytes, in.presentBytes);
+        return kExitFailure;
+    }
 
     io::Tags tags = o.tags;
     if (o.metadataFromInput)

@@ -225,6 +225,11 @@ void EngineUsageTest::badInputs_data()
     QTest::newRow("empty file") << "empty.wav" << QByteArray() << "empty.wav";
     QTest::newRow("text as wav") << "text.wav" << QByteArray("this is not audio at all, just words\n").repeated(20) << "text.wav";
     QTest::newRow("truncated header") << "cut.wav" << QByteArray("RIFF\x24\x10\x00\x00WAVEfmt ", 16) << "cut.wav";
+    // A whole second of audio cut off after 20000 bytes: the header still
+    // declares the full length.
+    QFile whole(tone("whole.wav", 1.0));
+    whole.open(QIODevice::ReadOnly);
+    QTest::newRow("truncated data") << "cut-data.wav" << whole.read(20000) << "truncated";
     QTest::newRow("m4a") << "song.m4a" << QByteArray(64, 'x') << "MPEG-4";
     QTest::newRow("ape") << "song.ape" << QByteArray(64, 'x') << "Monkey";
     QTest::newRow("wavpack") << "song.wv" << QByteArray(64, 'x') << "WavPack";

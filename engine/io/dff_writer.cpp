@@ -74,7 +74,7 @@ Bytes propChunkBody(const DsdFormat& f)
             putId(chnl, id);
         } else {
             char numbered[8];
-            std::snprintf(numbered, sizeof numbered, "C%03d", c);
+            std::snprintf(numbered, sizeof numbered, "C%03d", c % 1000);
             putId(chnl, numbered);
         }
     }

@@ -36,6 +36,7 @@ void printHelp(std::FILE* out, const char* version)
         "Tags (DSF: ID3v2; DFF: DIIN/COMT and ID3):\n"
         "  --artist T --title T --album T --genre T --year T --comment T --track N (1-998)\n"
         "  --metadata-from-input  fill empty tags from the input's own tags\n"
+        "  --cover IMAGE          embed a JPEG or PNG front cover (ID3 APIC)\n"
         "Reverse (DSD to PCM, inputs DSF or DFF):\n"
         "  --reverse -i IN ...    inputs of equal rate and channels are joined\n"
         "  --format flac          FLAC output (else by extension: .wav, .w64, .flac)\n"

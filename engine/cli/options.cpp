@@ -114,6 +114,10 @@ bool Parser::handle(const std::string& a)
     } else if (a == "--track") {
         if (intValue(1, 998, n))
             o.tags.track = static_cast<int>(n);
+    } else if (a == "--cover") {
+        if (value(s) && s.empty())
+            error("--cover: empty image path");
+        o.coverPath = s;
     } else if (a == "--metadata-from-input") {
         o.metadataFromInput = true;
     } else if (a == "--gui") {
@@ -292,6 +296,8 @@ void Parser::validate()
         error("--sampling and --lowpass apply to --reverse only");
     if (o.mode == Mode::Forward && (bitsGiven_ || floatGiven_ || formatGiven_))
         error("--bit, --float and --format apply to --reverse and --dxd only");
+    if (o.mode != Mode::Forward && !o.coverPath.empty())
+        error("--cover applies to DSF and DSDIFF outputs only");
     if (o.mode != Mode::Dxd && dxdRateGiven_)
         error("--dxd-samplerate applies to --dxd only");
 }

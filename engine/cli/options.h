@@ -25,6 +25,7 @@ struct EngineOptions {
     std::string output;
 
     io::Tags tags;
+    std::string coverPath;  // --cover: front cover image embedded in the tag
     bool metadataFromInput = false;
 
     bool gui = false;

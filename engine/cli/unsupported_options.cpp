@@ -58,7 +58,7 @@ const Row kRows[] = {
     // Containers, transports and hardware.
     {"--dst", ValueShape::None}, {"--dst-compression", ValueShape::One}, {"--opencl", ValueShape::None},
     {"--pipe", ValueShape::None}, {"--force-endianness", ValueShape::One}, {"--memory-cache", ValueShape::One},
-    {"--cue", ValueShape::One}, {"--cover", ValueShape::One},
+    {"--cue", ValueShape::One},
     // Analysis extras.
     {"--measure", ValueShape::None}, {"--stats", ValueShape::None}, {"--spectrogram", ValueShape::One},
     {"--hfacheck", ValueShape::None},

@@ -2,14 +2,21 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 namespace zuvo::io {
 
+bool Tags::hasText() const
+{
+    return !(artist.empty() && title.empty() && album.empty() && genre.empty() && year.empty()
+             && comment.empty() && track == 0);
+}
+
 bool Tags::empty() const
 {
-    return artist.empty() && title.empty() && album.empty() && genre.empty() && year.empty()
-        && comment.empty() && track == 0;
+    return !hasText() && cover.empty();
 }
 
 void Tags::fillEmptyFrom(const Tags& o)
@@ -26,6 +33,44 @@ void Tags::fillEmptyFrom(const Tags& o)
     fill(comment, o.comment);
     if (track == 0)
         track = o.track;
+    if (cover.empty()) {
+        cover = o.cover;
+        coverMime = o.coverMime;
+    }
+}
+
+bool loadCover(const std::string& path, Tags& tags, std::string* error)
+{
+    std::FILE* f = std::fopen(path.c_str(), "rb");
+    if (!f) {
+        if (error)
+            *error = "cannot read the cover image " + path + ": " + std::strerror(errno);
+        return false;
+    }
+    std::vector<std::uint8_t> data;
+    std::uint8_t chunk[65536];
+    std::size_t n;
+    constexpr std::size_t kMaxCover = 16u << 20; // an ID3 tag is limited to 256 MiB; covers are far smaller
+    while ((n = std::fread(chunk, 1, sizeof chunk, f)) > 0 && data.size() <= kMaxCover)
+        data.insert(data.end(), chunk, chunk + n);
+    std::fclose(f);
+    if (data.size() > kMaxCover) {
+        if (error)
+            *error = "the cover image " + path + " is larger than 16 MiB";
+        return false;
+    }
+    static const std::uint8_t png[] = {0x89, 'P', 'N', 'G'};
+    if (data.size() > 4 && std::memcmp(data.data(), png, 4) == 0) {
+        tags.coverMime = "image/png";
+    } else if (data.size() > 3 && data[0] == 0xFF && data[1] == 0xD8 && data[2] == 0xFF) {
+        tags.coverMime = "image/jpeg";
+    } else {
+        if (error)
+            *error = "the cover image " + path + " is neither JPEG nor PNG";
+        return false;
+    }
+    tags.cover = std::move(data);
+    return true;
 }
 
 namespace {
@@ -179,6 +224,18 @@ std::vector<std::uint8_t> buildId3v2(const Tags& t)
         auto txt = encodeText(t.comment, false);
         body.insert(body.end(), txt.begin() + 1, txt.end());
         appendFrame(frames, "COMM", body);
+    }
+    if (!t.cover.empty()) {
+        // APIC: encoding, MIME type, picture type 3 (front cover), empty description, data.
+        std::vector<std::uint8_t> body;
+        body.push_back(0);
+        for (char c : t.coverMime)
+            body.push_back(static_cast<std::uint8_t>(c));
+        body.push_back(0);
+        body.push_back(3);
+        body.push_back(0);
+        body.insert(body.end(), t.cover.begin(), t.cover.end());
+        appendFrame(frames, "APIC", body);
     }
     std::vector<std::uint8_t> tag = {'I', 'D', '3', 3, 0, 0};
     const auto n = static_cast<std::uint32_t>(frames.size());

@@ -16,8 +16,12 @@ struct Tags {
     std::string year;
     std::string comment;
     int track = 0; // 0 = none, else 1..998
+    // Front cover (APIC in the ID3 tag): the image bytes and their MIME type.
+    std::vector<std::uint8_t> cover;
+    std::string coverMime;
 
     bool empty() const;
+    bool hasText() const;
     // Fields that are empty here take the value from `other`.
     void fillEmptyFrom(const Tags& other);
 };
@@ -26,6 +30,9 @@ struct Tags {
 // Plain ASCII is stored as ISO-8859-1, anything else as UTF-16 with BOM, the
 // encoding every DSD player understands.
 std::vector<std::uint8_t> buildId3v2(const Tags& tags);
+
+// Reads a JPEG or PNG file for the front cover; the message says why not.
+bool loadCover(const std::string& path, Tags& tags, std::string* error);
 
 // Parses the frames this engine writes (and the usual v2.3/v2.4 text frames
 // of other writers). Returns false when `data` is not an ID3v2 tag.

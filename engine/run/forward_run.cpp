@@ -104,6 +104,10 @@ int runForward(RunContext& ctx)
     io::Tags tags = o.tags;
     if (o.metadataFromInput)
         tags.fillEmptyFrom(reader.tags());
+    if (!o.coverPath.empty() && !io::loadCover(o.coverPath, tags, &error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitUsage;
+    }
 
     ctx.log.line("tags: artist '%s', title '%s', album '%s', genre '%s', year '%s', track %d, comment '%s'",
                  tags.artist.c_str(), tags.title.c_str(), tags.album.c_str(), tags.genre.c_str(), tags.year.c_str(),

@@ -48,6 +48,7 @@ private slots:
     void toneToDsf();
     void toneToDffWithTags();
     void metadataFromInput();
+    void coverEmbedded();
     void inputFormats_data();
     void inputFormats();
     void swapChannels();
@@ -168,6 +169,34 @@ void EngineConvertTest::metadataFromInput()
     QCOMPARE(tags["artist"].toString(), QStringLiteral("Typed Artist")); // typed values win
     QCOMPARE(tags["title"].toString(), QStringLiteral("Title From Input"));
     QCOMPARE(tags["album"].toString(), QStringLiteral("Album From Input"));
+}
+
+void EngineConvertTest::coverEmbedded()
+{
+    const QString png = dir_.filePath("cover.png");
+    QProcess ff;
+    ff.start("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i", "color=c=red:s=32x32", "-frames:v", "1", png});
+    QVERIFY(ff.waitForFinished(30000) && ff.exitCode() == 0);
+    const QString in = makeInput("short.wav", 44100, 2, 0.5, SF_FORMAT_WAV | SF_FORMAT_PCM_24);
+    for (const QString name : {"cover.dsf", "cover.dff"}) {
+        const QString out = dir_.filePath(name);
+        const RunResult r = runEngine({"-i", in, "--artist", "A", "--title", "T", "--cover", png, out});
+        QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+        if (name.endsWith(".dsf")) {
+            // ffmpeg shows an embedded front cover as an attached picture stream.
+            const QJsonArray streams = ffprobe(out)["streams"].toArray();
+            QCOMPARE(streams.size(), 2);
+            QCOMPARE(streams.at(1).toObject()["codec_name"].toString(), QStringLiteral("png"));
+        } else {
+            QVERIFY(QFile(out).size() > QFile(png).size());
+        }
+    }
+    // A cover that is not an image is refused before the output exists.
+    const QString out = dir_.filePath("bad-cover.dsf");
+    const RunResult r = runEngine({"-i", in, "--cover", in, out});
+    QCOMPARE(r.exitCode, 2);
+    QVERIFY(r.err.contains("JPEG"));
+    QVERIFY(!QFile::exists(out));
 }
 
 void EngineConvertTest::inputFormats_data()

@@ -70,6 +70,12 @@ std::shared_ptr<const ForwardDesign> designForward(const ForwardConfig& config, 
 const DesignSummary& summary(const ForwardDesign& design);
 int dsdRateHz(const ForwardDesign& design);
 
+// Added by the signal path, for measurement (tests, benchmark, diagnostics):
+// runs `in` through the design's gain and interpolation chain only, without
+// the modulator. The result is at the DSD rate, delay-compensated and as
+// long as the input (same convention as ChannelEncoder).
+std::vector<double> interpolateOnly(const ForwardDesign& design, const double* in, std::size_t n);
+
 // PCM (one channel, full scale = 1.0) -> DSD bytes, MSB first (the earliest
 // bit in bit 7: DSDIFF order; the DSF writer reverses bytes).
 class ChannelEncoder {
@@ -86,7 +92,7 @@ public:
     void finish(std::vector<std::uint8_t>& out);
 
     struct Stats {
-        std::uint64_t overloads = 0;   // samples at which the modulator state was clipped
+        std::uint64_t overloads = 0;   // state checks (one per 8 samples) at which the modulator state was clipped
         std::uint64_t resets = 0;      // times the modulator had to be reset
         double peakInput = 0;          // largest |sample| after gain
     };

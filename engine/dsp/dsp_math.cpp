@@ -31,6 +31,7 @@ double kaiserBeta(double a)
 
 int kaiserLength(double a, double df)
 {
+    df = std::max(df, 1e-6); // callers validate band edges; never divide by zero
     const double n = (a - 7.95) / (14.36 * df) + 1;
     return std::max(3, int(std::ceil(n)));
 }

@@ -38,9 +38,16 @@ bool planStage1(const FirOptions& o, int inputRate, Stage1Plan& p, std::string* 
         return fail("unsupported input rate " + std::to_string(inputRate)
                     + " Hz: use 44.1 kHz or 48 kHz times 1, 2, 4, 8 or 16");
     const double fs = inputRate;
-    if (o.taps != 0 && (o.taps < 512 || o.taps > 1048576))
+    const bool remez = o.algorithm == FilterAlgorithm::Remez;
+    if (!remez && o.taps != 0 && (o.taps < 512 || o.taps > 1048576))
         return fail("--taps " + std::to_string(o.taps)
                     + " is out of range: use 0 (automatic) or 512 to 1048576 taps");
+    // The Parks-McClellan exchange reaches the same attenuation with far
+    // fewer taps, and liquid's implementation stops converging beyond a few
+    // hundred on this band layout, hence its own range.
+    if (remez && o.taps != 0 && (o.taps < 63 || o.taps > 1023))
+        return fail("--taps " + std::to_string(o.taps)
+                    + " is out of range for the Remez design: use 0 (automatic) or 63 to 1023 taps");
     if (o.maxIterations < 0 || o.maxIterations > 100000)
         return fail("--maxiterations must be between 1 and 100000");
     if (o.gridDensity < 0 || o.gridDensity > 1024)
@@ -67,7 +74,10 @@ bool planStage1(const FirOptions& o, int inputRate, Stage1Plan& p, std::string* 
         pass = 0.4762 * fs;
     if (o.slowRollOff)
         pass = 0.36 * fs;
-    double stop = 0.5 * fs;
+    // Window designs stop at the input's Nyquist frequency; the equiripple
+    // design stops where the first image of the audio band begins, which is
+    // what it must reject, and gets a transition wide enough to converge.
+    double stop = remez ? std::max(0.5 * fs, fs - pass) : 0.5 * fs;
     if (o.passbandHz > 0)
         pass = o.passbandHz;
     if (o.stopbandHz > 0)
@@ -86,7 +96,7 @@ bool planStage1(const FirOptions& o, int inputRate, Stage1Plan& p, std::string* 
         return fail("pass-band cut-off must not exceed half the input rate");
     p.passHz = pass;
     p.stopHz = stop;
-    p.attenuationDb = o.stopbandAttenuationDb > 0 ? o.stopbandAttenuationDb : 170.0;
+    p.attenuationDb = o.stopbandAttenuationDb > 0 ? o.stopbandAttenuationDb : remez ? 150.0 : 170.0;
 
     p.algorithm = o.algorithm;
     if (p.algorithm == FilterAlgorithm::Default)
@@ -105,13 +115,14 @@ bool planStage1(const FirOptions& o, int inputRate, Stage1Plan& p, std::string* 
         taps = kaiserLength(p.attenuationDb, df);
         if (p.window != "kaiser") // fixed windows need roughly this much more length
             taps = int(taps * 1.3);
+        if (p.algorithm == FilterAlgorithm::Remez)
+            taps = std::min(int(taps * 0.8), 241); // equiripple: ~20% shorter than Kaiser
         taps = std::max(taps, 63);
         if (taps % 2 == 0)
             ++taps;
     }
-    if (p.algorithm == FilterAlgorithm::Remez && taps > 8191)
-        return fail("Remez design is limited to 8191 taps; use the window method for longer filters");
     p.taps = taps;
+    p.autoTaps = o.taps == 0;
     return true;
 }
 
@@ -155,8 +166,44 @@ bool designStage1(const Stage1Plan& p, int inputRate, FirStage& out, std::string
     out.passHz = p.passHz;
     out.stopHz = p.stopHz;
     if (p.algorithm == FilterAlgorithm::Remez) {
-        if (!remezLowpass(p.taps, p.passHz / rate, p.stopHz / rate, p.attenuationDb, out.h, error))
-            return false;
+        // Judge the exchange by the response it produced: liquid reports
+        // success even when it has not converged.
+        auto attenuation = [&](const std::vector<double>& h) {
+            double worst = 0;
+            for (int i = 0; i <= 400; ++i) {
+                const double f = p.stopHz + (rate / 2 - p.stopHz) * i / 400.0;
+                worst = std::max(worst, std::abs(firResponse(h, f / rate)));
+            }
+            double lo = 1e9, hi = 0;
+            for (int i = 0; i <= 100; ++i) {
+                const double m = std::abs(firResponse(h, p.passHz * i / 100.0 / rate));
+                lo = std::min(lo, m);
+                hi = std::max(hi, m);
+            }
+            if (!(hi < 1.01 && lo > 0.99))
+                return 0.0;
+            return -20 * std::log10(std::max(worst, 1e-30));
+        };
+        int n = p.taps;
+        std::string why;
+        for (;;) {
+            std::vector<double> h;
+            if (remezLowpass(n, p.passHz / rate, p.stopHz / rate, p.attenuationDb, h, &why)) {
+                const double a = attenuation(h);
+                if (a >= std::min(p.attenuationDb - 10, 120.0) || (!p.autoTaps && a >= 40)) {
+                    out.h = h;
+                    break;
+                }
+            }
+            if (!p.autoTaps || n <= 63) {
+                if (error)
+                    *error = "the Remez (Parks-McClellan) exchange did not converge for " + std::to_string(n)
+                           + " taps with these band edges; use fewer taps (about 240 at most), wider transition "
+                             "or the window method";
+                return false;
+            }
+            n -= 16;
+        }
     } else {
         const auto w = makeWindow(p.window.c_str(), p.taps, p.beta);
         out.h = windowedSincLowpass(p.taps, 0.5 * (p.passHz + p.stopHz) / rate, w);
@@ -203,16 +250,20 @@ FirStage designHalfband(double inRate, double passHz, double attenuationDb)
     return s;
 }
 
-std::vector<double> kaiserLowpass(double rate, double passHz, double stopHz, double attenuationDb, int minTaps)
+std::vector<double> kaiserLowpass(double rate, double passHz, double stopHz, double attenuationDb, int minTaps,
+                                  int delayMultiple, int delayOffset)
 {
-    int n = std::max(minTaps, kaiserLength(attenuationDb, (stopHz - passHz) / rate));
-    if (n % 2 == 0)
-        ++n;
+    const int n0 = std::max(minTaps, kaiserLength(attenuationDb, (stopHz - passHz) / rate));
+    int d = (n0 - 1 + 1) / 2;
+    while (((d - delayOffset) % delayMultiple + delayMultiple) % delayMultiple != 0)
+        ++d;
+    const int n = 2 * d + 1;
     const auto w = makeWindow("kaiser", n, kaiserBeta(attenuationDb));
     return windowedSincLowpass(n, 0.5 * (passHz + stopHz) / rate, w);
 }
 
-FirStage designRational(double inRate, int L, int M, double passHz, double stopHz, double attenuationDb)
+FirStage designRational(double inRate, int L, int M, double passHz, double stopHz, double attenuationDb,
+                        int delayOffset)
 {
     FirStage s;
     s.name = "rational " + std::to_string(L) + "/" + std::to_string(M);
@@ -222,7 +273,7 @@ FirStage designRational(double inRate, int L, int M, double passHz, double stopH
     s.outRate = inRate * L / M;
     s.passHz = passHz;
     s.stopHz = stopHz;
-    s.h = kaiserLowpass(inRate * L, passHz, stopHz, attenuationDb, L);
+    s.h = kaiserLowpass(inRate * L, passHz, stopHz, attenuationDb, L, M, delayOffset);
     return s;
 }
 

@@ -35,6 +35,7 @@ struct Stage1Plan {
     double beta = 0;
     bool minimumPhase = false;
     int maxIterations = 0, gridDensity = 0;
+    bool autoTaps = true;
 };
 
 // Validates the options and fills the plan; returns false with a message.
@@ -45,9 +46,16 @@ bool designStage1(const Stage1Plan& plan, int inputRate, FirStage& out, std::str
 // Half-band 2x stage keeping [0, passHz] and rejecting images by attenuationDb.
 FirStage designHalfband(double inRate, double passHz, double attenuationDb);
 // Rational L/M stage with a Kaiser prototype.
-FirStage designRational(double inRate, int L, int M, double passHz, double stopHz, double attenuationDb);
-// Plain Kaiser low-pass used by decimators: prototype at `rate`.
-std::vector<double> kaiserLowpass(double rate, double passHz, double stopHz, double attenuationDb, int minTaps = 3);
+// delayOffset: the prototype's delay (N-1)/2 is made congruent to it modulo
+// M, so that with the earlier stages' delay the total is whole output samples.
+FirStage designRational(double inRate, int L, int M, double passHz, double stopHz, double attenuationDb,
+                        int delayOffset = 0);
+// Plain Kaiser low-pass used by decimators: prototype at `rate`. The length
+// is odd and its delay (N-1)/2 is congruent to delayOffset modulo
+// delayMultiple, so a stage's delay can be made a whole number of its
+// output samples and the chain's delay compensated exactly.
+std::vector<double> kaiserLowpass(double rate, double passHz, double stopHz, double attenuationDb, int minTaps = 3,
+                                  int delayMultiple = 1, int delayOffset = 0);
 
 // Least-squares linear-phase correction (odd length, at `rate`) whose
 // magnitude follows target(f) over [0, passHz].

@@ -155,7 +155,12 @@ std::shared_ptr<const ForwardDesign> designForward(const ForwardConfig& c, std::
         // first stage so the rational step only has to keep the band the
         // first stage already shaped (a wide, cheap transition).
         const double out = rate * 147 / 160;
-        d->stages.push_back(designRational(rate, 147, 160, content, std::min(rate, out) - content, kChainAttenuationDb));
+        // Stage 1's delay is d1 samples at `rate` = 147*d1 prototype samples;
+        // pick the rational stage's delay so the sum is whole output samples.
+        const long d1 = std::lround(d->stages[0].delaySeconds() * rate);
+        const int offset = int(((-147L * d1) % 160 + 160) % 160);
+        d->stages.push_back(
+            designRational(rate, 147, 160, content, std::min(rate, out) - content, kChainAttenuationDb, offset));
         rate = out;
     }
     if (rate > d->dsdRate)
@@ -327,6 +332,48 @@ void ChannelEncoder::finish(std::vector<std::uint8_t>& out)
         m.acc = 0;
         m.nacc = 0;
     }
+}
+
+std::vector<double> interpolateOnly(const ForwardDesign& d, const double* in, std::size_t n)
+{
+    std::vector<std::unique_ptr<Stage>> stages;
+    for (const auto& s : d.stages) {
+        if (s.halfband)
+            stages.push_back(std::make_unique<HalfbandInterpolator>(s.h));
+        else
+            stages.push_back(std::make_unique<PolyphaseStage>(s.h, s.L, s.M, double(s.L)));
+    }
+    const auto total = std::size_t(std::llround(double(n) * d.dsdRate / double(d.config.inputRate)));
+    std::vector<double> result;
+    result.reserve(total);
+    std::int64_t skip = d.skip;
+    std::vector<double> a, b, zeros(4096, 0.0);
+    std::size_t pos = 0;
+    int guard = 0;
+    while (result.size() < total && guard++ < 1000000) {
+        const std::size_t k = pos < n ? std::min<std::size_t>(4096, n - pos) : zeros.size();
+        if (pos < n) {
+            a.resize(k);
+            for (std::size_t i = 0; i < k; ++i)
+                a[i] = in[pos + i] * d.gain;
+            pos += k;
+        } else {
+            a = zeros;
+        }
+        for (auto& s : stages) {
+            b.clear();
+            s->process(a.data(), a.size(), b);
+            std::swap(a, b);
+        }
+        std::size_t off = 0;
+        if (skip > 0) {
+            off = std::min<std::size_t>(a.size(), std::size_t(skip));
+            skip -= std::int64_t(off);
+        }
+        const std::size_t m = std::min(a.size() - off, total - result.size());
+        result.insert(result.end(), a.begin() + std::ptrdiff_t(off), a.begin() + std::ptrdiff_t(off + m));
+    }
+    return result;
 }
 
 ChannelEncoder::Stats ChannelEncoder::stats() const

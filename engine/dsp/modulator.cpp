@@ -481,16 +481,16 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
     }
 
     // Measure the largest stable sine amplitude: descend in 0.25 dB steps
-    // until three consecutive levels run clean. A tone a quarter of the way
-    // into the band exercises the loop like programme material does.
-    const double f0 = fb * 0.25;
+    // until three consecutive levels run clean, with a tone near the bottom
+    // of the band (1 kHz at DSD64) and one a quarter of the way up (5 kHz);
+    // low tones drive the integrators hardest, higher ones the resonators.
     ModulatorRunner r(&d);
     r.clipping = false;
     r.track = true;
     const int len = 60000;
     std::vector<double> u(len);
     std::vector<std::uint8_t> bits(len);
-    auto simulate = [&](double amp, std::vector<double>& ms) {
+    auto simulate = [&](double amp, double f0, std::vector<double>& ms) {
         for (int i = 0; i < len; ++i)
             u[i] = amp * std::sin(2 * kPi * f0 * i);
         r.reset();
@@ -504,23 +504,35 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
         ms = r.maxAbsState;
         return true;
     };
-    std::vector<double> base;
-    simulate(0.5, base);
-    auto stableAt = [&](double amp, std::vector<double>& ms) {
-        if (!simulate(amp, ms))
-            return false;
+    const double tones[2] = {fb * 0.05, fb * 0.25};
+    std::vector<double> base(d.n, 0.0), ms;
+    for (double f0 : tones) {
+        simulate(0.5, f0, ms);
         for (int i = 0; i < d.n; ++i)
-            if (ms[i] > 40 * base[i] + 1e-300)
+            base[i] = std::max(base[i], ms[i]);
+    }
+    auto stableAt = [&](double amp, std::vector<double>& peak) {
+        peak.assign(d.n, 0.0);
+        for (double f0 : tones) {
+            if (!simulate(amp, f0, ms))
                 return false;
+            for (int i = 0; i < d.n; ++i) {
+                if (ms[i] > 40 * base[i] + 1e-300)
+                    return false;
+                peak[i] = std::max(peak[i], ms[i]);
+            }
+        }
         return true;
     };
     double level = 0;
-    std::vector<double> ms;
     int clean = 0;
+    std::vector<double> peakState, atLevel;
     for (double db = 0; db > -30; db -= 0.25) {
-        if (stableAt(std::pow(10.0, db / 20), ms)) {
-            if (clean == 0)
+        if (stableAt(std::pow(10.0, db / 20), peakState)) {
+            if (clean == 0) {
                 level = db;
+                atLevel = peakState;
+            }
             if (++clean == 3)
                 break;
         } else {
@@ -528,10 +540,13 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
         }
     }
     d.maxStable = std::pow(10.0, level / 20);
-    simulate(d.maxStable, ms);
+    if (atLevel.empty())
+        atLevel = base;
     d.limit.resize(d.n);
+    // Clip levels well above anything a stable run reaches, so clipping
+    // only ever acts on a loop that has actually lost control.
     for (int i = 0; i < d.n; ++i)
-        d.limit[i] = 2.0 * std::max(ms[i], base[i]);
+        d.limit[i] = 2.0 * std::max(atLevel[i], base[i]);
     buildBlockKernel(d, d.kernel);
     return true;
 }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <cstdio>
+#include <cstdlib>
 
 namespace zuvo::dsp {
 
@@ -134,14 +136,19 @@ ChannelDecimator::ChannelDecimator(const ReverseConfig& c, std::string* error)
     m.outRate = out;
     double delay = 0;
     {
-        const auto h = kaiserLowpass(c.dsdRate, keep, r1 - keep, kReverseAttenuationDb);
+        // Every stage's delay is made a whole number of samples at the rate
+        // the last decimating stage produces (r44), so the chain's delay is
+        // removed exactly. Here: (N-1)/2 - 7 bits, in multiples of dsd/r44.
+        const int unit = int(std::llround(c.dsdRate / r44));
+        const auto h = kaiserLowpass(c.dsdRate, lp, r1 - keep, kReverseAttenuationDb, 3, unit, 7);
         m.first = std::make_unique<BitDecimator>(h);
         // Output n is taken once byte n (bits 8n..8n+7) is in.
         delay += ((h.size() - 1) / 2.0 - 7) / c.dsdRate;
     }
     double rate = r1;
     while (rate > r44 + 0.5) {
-        const auto h = kaiserLowpass(rate, keep, rate / 2 - keep, kReverseAttenuationDb);
+        const int unit = int(std::llround(rate / r44));
+        const auto h = kaiserLowpass(rate, lp, rate / 2 - keep, kReverseAttenuationDb, 3, unit, 0);
         m.stages.push_back(std::make_unique<PolyphaseStage>(h, 1, 2, 1.0));
         delay += (h.size() - 1) / 2.0 / rate;
         rate /= 2;
@@ -151,11 +158,17 @@ ChannelDecimator::ChannelDecimator(const ReverseConfig& c, std::string* error)
         m.stages.push_back(std::make_unique<PolyphaseStage>(h, 1, 1, 1.0));
         delay += (h.size() - 1) / 2.0 / rate;
     } else {
-        const auto h = kaiserLowpass(rate * 160, lp, keep, kReverseAttenuationDb, 160);
+        // The earlier stages' delay is k samples at r44 = 160k prototype
+        // samples; choose this stage's delay so the total is whole outputs.
+        const long k = std::lround(delay * rate);
+        const int offset = int(((-160L * k) % 147 + 147) % 147);
+        const auto h = kaiserLowpass(rate * 160, lp, keep, kReverseAttenuationDb, 160, 147, offset);
         m.stages.push_back(std::make_unique<PolyphaseStage>(h, 160, 147, 160.0));
         delay += (h.size() - 1) / 2.0 / (rate * 160);
     }
     m.tm.skipLeft = std::llround(delay * out);
+    if (std::getenv("ZUVO_DSP_DEBUG"))
+        std::fprintf(stderr, "decimator delay %.9f s = %.6f output samples\n", delay, delay * out);
     m.tm.ratio = double(out) / c.dsdRate;
     m.ok = true;
 }
@@ -220,7 +233,7 @@ ChannelResampler::ChannelResampler(int inputRate, int outputRate, std::string* e
     // Keep the audio band (or 45% of the lower rate, if that is wider),
     // reject from the lower rate's Nyquist frequency.
     const double pass = std::max(std::min(20000.0, 0.4535 * lo), 0.4535 * lo);
-    const auto h = kaiserLowpass(double(inputRate) * L, pass, 0.5 * lo, kReverseAttenuationDb, L);
+    const auto h = kaiserLowpass(double(inputRate) * L, pass, 0.5 * lo, kReverseAttenuationDb, L, M, 0);
     m.stage = std::make_unique<PolyphaseStage>(h, L, M, double(L));
     m.tm.skipLeft = std::llround((h.size() - 1) / 2.0 / (double(inputRate) * L) * outputRate);
 }

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <complex>
 #include <cstddef>
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -120,6 +121,70 @@ inline ToneAnalysis analyseTone(const std::vector<double>& x, double fs, double 
     r.noiseDb = 10 * std::log10(std::max(noise, 1e-300) / 0.5);
     r.bandNoiseDb = 10 * std::log10(std::max(extra, 1e-300) / 0.5);
     return r;
+}
+
+// Windowed power spectrum, normalised so a full-scale sine sums to 0.5 over
+// its lobe. Uses the last power-of-two samples of x.
+struct Spectrum {
+    std::vector<double> p;
+    double df = 0;
+    std::size_t bin(double hz) const { return std::size_t(std::llround(hz / df)); }
+    // Power of the tone nearest hz (lobe sum), relative to a full-scale sine, dB.
+    double toneDb(double hz, int lobe = 10) const
+    {
+        std::size_t k = bin(hz);
+        double s = 0;
+        for (std::size_t i = k - lobe; i <= k + lobe; ++i)
+            s += p[i];
+        return 10 * std::log10(s / 0.5);
+    }
+    // Largest single bin in [lo, hi] Hz, dB relative to a full-scale sine's peak bin.
+    double maxBinDb(double lo, double hi) const
+    {
+        double m = 1e-300;
+        for (std::size_t k = bin(lo); k <= bin(hi) && k < p.size(); ++k)
+            m = std::max(m, p[k]);
+        return 10 * std::log10(m);
+    }
+    double peakBinDb(double hz) const
+    {
+        std::size_t k = bin(hz);
+        double m = 0;
+        for (std::size_t i = k - 3; i <= k + 3; ++i)
+            m = std::max(m, p[i]);
+        return 10 * std::log10(m);
+    }
+};
+
+inline Spectrum spectrumOf(const std::vector<double>& x, double fs)
+{
+    std::size_t n = 1;
+    while (n * 2 <= x.size())
+        n *= 2;
+    const std::size_t off = x.size() - n;
+    const auto w = blackmanHarris7(n);
+    std::vector<std::complex<double>> a(n);
+    for (std::size_t i = 0; i < n; ++i)
+        a[i] = x[off + i] * w[i];
+    fftInPlace(a);
+    double w2 = 0;
+    for (double v : w)
+        w2 += v * v;
+    const double norm = 2.0 / (double(n) * w2);
+    Spectrum s;
+    s.df = fs / double(n);
+    s.p.resize(n / 2);
+    for (std::size_t k = 0; k < n / 2; ++k)
+        s.p[k] = std::norm(a[k]) * norm;
+    return s;
+}
+
+inline std::vector<double> sine(double hz, double fs, double amplitude, std::size_t n)
+{
+    std::vector<double> x(n);
+    for (std::size_t i = 0; i < n; ++i)
+        x[i] = amplitude * std::sin(2 * M_PI * hz * double(i) / fs);
+    return x;
 }
 
 // DSD bytes (MSB first) -> +-1 samples.

@@ -241,7 +241,9 @@ struct ChannelEncoder::Impl {
         }
         skipLeft = d->skip;
         const double ratio = double(d->dsdRate) / d->config.inputRate;
-        block = std::max<std::size_t>(1, std::size_t((1 << 18) / ratio));
+        // Chunks of about 16k output samples keep every stage's buffers in
+        // the second-level cache.
+        block = std::max<std::size_t>(1, std::size_t((1 << 14) / ratio));
     }
 
     // Runs n already-scaled samples through the chain and modulator, never

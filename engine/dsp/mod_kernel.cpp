@@ -103,10 +103,10 @@ typedef long long v4i __attribute__((vector_size(32)));
 #define ZUVO_OPAQUE(v) asm("" : "+r"(v))
 #endif
 
-template <int NP>
+template <int NP, bool TRACK>
 __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& k, double* xio, const double* u,
                                                              std::size_t nblocks, std::uint8_t* bits,
-                                                             std::uint8_t* flags)
+                                                             std::uint8_t* flags, double* peak)
 {
     constexpr int K = kBlock;
     constexpr int R = NP + K;
@@ -142,6 +142,9 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
     };
     if (nblocks > 0)
         candFromState(u);
+    v4d pk[SV];
+    for (int i = 0; i < SV; ++i)
+        pk[i] = v4d{0, 0, 0, 0};
     std::size_t clipped = 0;
     for (std::size_t b = 0; b < nblocks; ++b) {
         const double* ub = u + b * K;
@@ -208,6 +211,11 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
             x[i] = q[i];
         for (int r = 0; r < KV; ++r)
             cand[r] = q[SV + r];
+        if constexpr (TRACK)
+            for (int i = 0; i < SV; ++i) {
+                const v4d a = x[i] < 0 ? -x[i] : x[i];
+                pk[i] = a > pk[i] ? a : pk[i];
+            }
         if (__builtin_expect((over[0] | over[1] | over[2] | over[3]) != 0, 0)) {
             for (int i = 0; i < SV; ++i) {
                 x[i] = x[i] > lim[i] ? lim[i] : x[i];
@@ -222,6 +230,9 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
         }
     }
     std::memcpy(xio, x, sizeof x);
+    if constexpr (TRACK)
+        for (int i = 0; i < NP; ++i)
+            peak[i] = std::max(peak[i], pk[i / 4][i % 4]);
     return clipped;
 }
 
@@ -232,34 +243,48 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
 #endif
 
 ZUVO_CLONES static std::size_t run4(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
-                                    std::uint8_t* f)
+                                    std::uint8_t* f, double* pk)
 {
-    return runBlocksT<4>(k, x, u, nb, bits, f);
+    return runBlocksT<4, false>(k, x, u, nb, bits, f, pk);
 }
 ZUVO_CLONES static std::size_t run8(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
-                                    std::uint8_t* f)
+                                    std::uint8_t* f, double* pk)
 {
-    return runBlocksT<8>(k, x, u, nb, bits, f);
+    return runBlocksT<8, false>(k, x, u, nb, bits, f, pk);
 }
 ZUVO_CLONES static std::size_t run12(const BlockKernel& k, double* x, const double* u, std::size_t nb,
-                                     std::uint8_t* bits, std::uint8_t* f)
+                                     std::uint8_t* bits, std::uint8_t* f, double* pk)
 {
-    return runBlocksT<12>(k, x, u, nb, bits, f);
+    return runBlocksT<12, false>(k, x, u, nb, bits, f, pk);
 }
 ZUVO_CLONES static std::size_t run16(const BlockKernel& k, double* x, const double* u, std::size_t nb,
-                                     std::uint8_t* bits, std::uint8_t* f)
+                                     std::uint8_t* bits, std::uint8_t* f, double* pk)
 {
-    return runBlocksT<16>(k, x, u, nb, bits, f);
+    return runBlocksT<16, false>(k, x, u, nb, bits, f, pk);
+}
+
+// Design-time runs that also record the state peaks; not speed-critical.
+static std::size_t runTracked(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
+                              std::uint8_t* f, double* pk)
+{
+    switch (k.np) {
+    case 4: return runBlocksT<4, true>(k, x, u, nb, bits, f, pk);
+    case 8: return runBlocksT<8, true>(k, x, u, nb, bits, f, pk);
+    case 12: return runBlocksT<12, true>(k, x, u, nb, bits, f, pk);
+    default: return runBlocksT<16, true>(k, x, u, nb, bits, f, pk);
+    }
 }
 
 std::size_t runBlocks(const BlockKernel& k, double* x, const double* u, std::size_t nblocks, std::uint8_t* bits,
-                      std::uint8_t* flags)
+                      std::uint8_t* flags, double* peak)
 {
+    if (peak)
+        return runTracked(k, x, u, nblocks, bits, flags, peak);
     switch (k.np) {
-    case 4: return run4(k, x, u, nblocks, bits, flags);
-    case 8: return run8(k, x, u, nblocks, bits, flags);
-    case 12: return run12(k, x, u, nblocks, bits, flags);
-    default: return run16(k, x, u, nblocks, bits, flags);
+    case 4: return run4(k, x, u, nblocks, bits, flags, peak);
+    case 8: return run8(k, x, u, nblocks, bits, flags, peak);
+    case 12: return run12(k, x, u, nblocks, bits, flags, peak);
+    default: return run16(k, x, u, nblocks, bits, flags, peak);
     }
 }
 

@@ -34,7 +34,8 @@ void buildBlockKernel(const ModulatorDesign& d, BlockKernel& k);
 // Processes nblocks * kBlock samples; x has np entries (padding zero).
 // Returns the number of blocks at which the state had to be clipped and
 // writes those block indices' flags into clippedFlags (one byte per block).
+// With `peak` (np entries) it also keeps the largest |state| seen.
 std::size_t runBlocks(const BlockKernel& k, double* x, const double* u, std::size_t nblocks, std::uint8_t* bits,
-                      std::uint8_t* clippedFlags);
+                      std::uint8_t* clippedFlags, double* peak = nullptr);
 
 } // namespace zuvo::dsp::detail

@@ -488,22 +488,28 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
     // until three consecutive levels run clean, with a tone near the bottom
     // of the band (1 kHz at DSD64) and one a quarter of the way up (5 kHz);
     // low tones drive the integrators hardest, higher ones the resonators.
+    // The sweep runs through the block kernel with open limits.
+    d.limit.assign(d.n, 1e300);
+    buildBlockKernel(d, d.kernel);
     ModulatorRunner r(&d);
     r.clipping = false;
     r.track = true;
     const int len = 60000;
     std::vector<double> u(len);
     std::vector<std::uint8_t> bits(len);
+    std::vector<double> base; // reference state sizes; empty while measuring them
     auto simulate = [&](double amp, double f0, std::vector<double>& ms) {
         for (int i = 0; i < len; ++i)
             u[i] = amp * std::sin(2 * kPi * f0 * i);
         r.reset();
         std::fill(r.maxAbsState.begin(), r.maxAbsState.end(), 0.0);
-        for (int i = 0; i < len; i += 4000) {
-            r.run(u.data() + i, std::min(4000, len - i), bits.data() + i);
-            for (double m : r.maxAbsState)
-                if (!(m < 1e30))
-                    return false;
+        for (int i = 0; i < len; i += 2000) {
+            r.run(u.data() + i, std::min(2000, len - i), bits.data() + i);
+            for (std::size_t k = 0; k < r.maxAbsState.size(); ++k) {
+                const double m = r.maxAbsState[k];
+                if (!(m < 1e30) || (!base.empty() && k < base.size() && m > 20 * base[k] + 1e-300))
+                    return false; // lost: no need to run on
+            }
         }
         ms = r.maxAbsState;
         return true;
@@ -512,17 +518,21 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
     // Reference state sizes from a moderate tone. A design that cannot even
     // carry that, or whose quantiser input wanders far beyond the +-1 it
     // decides between, is unusable.
-    std::vector<double> base(d.n, 0.0), ms;
+    std::vector<double> ms, ref(d.n, 0.0);
     for (double f0 : tones) {
         r.maxAbsY = 0;
-        if (!simulate(0.25, f0, ms) || r.maxAbsY > 8) {
+        r.trackInBlocks = false; // per sample here: it also watches the quantiser input
+        const bool ok = simulate(0.25, f0, ms);
+        r.trackInBlocks = true;
+        if (!ok || r.maxAbsY > 8) {
             if (error)
                 *error = "modulator " + d.topology + " is unstable even at -12 dBFS; choose a lower order";
             return false;
         }
         for (int i = 0; i < d.n; ++i)
-            base[i] = std::max(base[i], ms[i]);
+            ref[i] = std::max(ref[i], ms[i]);
     }
+    base = ref;
     auto stableAt = [&](double amp, std::vector<double>& peak) {
         peak.assign(d.n, 0.0);
         for (double f0 : tones) {
@@ -536,21 +546,27 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
         }
         return true;
     };
-    double level = 0;
-    int clean = 0;
+    // Bisection on a 0.25 dB grid (stability falls off monotonically with
+    // level in practice), then the two grid steps below must be clean too.
     std::vector<double> peakState, atLevel;
-    for (double db = 0; db > -30; db -= 0.25) {
-        if (stableAt(std::pow(10.0, db / 20), peakState)) {
-            if (clean == 0) {
-                level = db;
-                atLevel = peakState;
-            }
-            if (++clean == 3)
-                break;
-        } else {
-            clean = 0;
+    auto clean = [&](int q) { return stableAt(std::pow(10.0, q * 0.25 / 20), peakState); };
+    int lo = -120, hi = 0; // quarter-dB steps: -30 dB .. 0 dB
+    if (clean(hi)) {
+        lo = hi;
+    } else {
+        while (hi - lo > 1) {
+            const int mid = (lo + hi) / 2;
+            if (clean(mid))
+                lo = mid;
+            else
+                hi = mid;
         }
     }
+    while (lo > -120 && !(clean(lo - 1) && clean(lo - 2) && clean(lo)))
+        --lo;
+    clean(lo);
+    atLevel = peakState;
+    const double level = lo * 0.25;
     d.maxStable = std::pow(10.0, level / 20);
     if (atLevel.empty())
         atLevel = base;
@@ -580,6 +596,14 @@ void ModulatorRunner::reset()
 
 void ModulatorRunner::run(const double* u, std::size_t n, std::uint8_t* bits)
 {
+    if (track && trackInBlocks && d_->kernel.np != 0) {
+        const std::size_t nb = n / kBlock;
+        flags_.resize(nb);
+        runBlocks(d_->kernel, x_.data(), u, nb, bits, flags_.data(), maxAbsState.data());
+        if (nb * kBlock < n)
+            runSamples(u + nb * kBlock, n - nb * kBlock, bits + nb * kBlock);
+        return;
+    }
     if (track || !clipping || d_->kernel.np == 0) {
         runSamples(u, n, bits);
         return;

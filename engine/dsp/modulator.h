@@ -64,6 +64,7 @@ public:
     double maxAbsY = 0;
     std::vector<double> maxAbsState;
     bool track = false;
+    bool trackInBlocks = false; // track through the block kernel (its limits must be open)
 
 private:
     const ModulatorDesign* d_;

@@ -8,7 +8,7 @@
 #include <thread>
 
 #ifdef _WIN32
-#error "control_channel: the Windows console reader is not written yet"
+#include <io.h>
 #else
 #include <poll.h>
 #include <unistd.h>
@@ -100,6 +100,22 @@ struct ControlListener::State {
     }
 };
 
+namespace {
+
+// Appends a chunk of input and hands every completed line on.
+template <typename State>
+void deliverLines(State& state, std::string& pending, const char* chunk, std::size_t n)
+{
+    pending.append(chunk, n);
+    std::size_t pos;
+    while ((pos = pending.find('\n')) != std::string::npos) {
+        state.deliver(std::string_view(pending).substr(0, pos));
+        pending.erase(0, pos + 1);
+    }
+}
+
+} // namespace
+
 ControlListener::ControlListener(const InprocHostOptions& options)
     : state_(std::make_shared<State>()), options_(options)
 {
@@ -140,6 +156,23 @@ void ControlListener::start(LineHandler onLine)
         return; // the host meant to give a queue and failed: fd 0 is not a channel then
     // A host without a queue puts its control pipe on descriptor 0.
 
+#ifdef _WIN32
+    // Console and pipe handles cannot be waited on with a time-out the way a
+    // POSIX descriptor can, so this reader blocks in _read and is detached;
+    // it owns its share of the state and delivers nothing once shut down.
+    std::thread([state = state_] {
+        std::string pending;
+        char chunk[512];
+        while (!state->quit) {
+            const int n = ::_read(0, chunk, sizeof chunk);
+            if (n <= 0)
+                break; // end of input is not a stop request
+            deliverLines(*state, pending, chunk, static_cast<std::size_t>(n));
+        }
+        if (!pending.empty() && !state->quit)
+            state->deliver(pending);
+    }).detach();
+#else
     stdinThread_ = std::thread([state = state_] {
         std::string pending;
         char chunk[512];
@@ -158,16 +191,12 @@ void ControlListener::start(LineHandler onLine)
                 continue;
             if (n <= 0)
                 break; // end of input is not a stop request
-            pending.append(chunk, static_cast<std::size_t>(n));
-            std::size_t pos;
-            while ((pos = pending.find('\n')) != std::string::npos) {
-                state->deliver(std::string_view(pending).substr(0, pos));
-                pending.erase(0, pos + 1);
-            }
+            deliverLines(*state, pending, chunk, static_cast<std::size_t>(n));
         }
         if (!pending.empty() && !state->quit)
             state->deliver(pending);
     });
+#endif
 }
 
 bool ControlListener::received(std::string_view word) const

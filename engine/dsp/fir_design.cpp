@@ -250,6 +250,28 @@ FirStage designHalfband(double inRate, double passHz, double attenuationDb)
     return s;
 }
 
+FirStage designBinomial(double inRate, double audioHz, double attenuationDb)
+{
+    FirStage s;
+    s.L = 2;
+    s.M = 1;
+    s.inRate = inRate;
+    s.outRate = 2 * inRate;
+    s.passHz = audioHz;
+    s.stopHz = inRate - audioHz;
+    const double perOrder = -20 * std::log10(std::sin(kPi * audioHz / s.outRate));
+    int p = std::max(2, int(std::ceil(attenuationDb / perOrder)));
+    p += p % 2; // odd length: a whole-sample delay the chain can remove exactly
+    s.name = "binomial (order " + std::to_string(p) + ")";
+    s.h.assign(std::size_t(p) + 1, 0.0);
+    double c = 1;
+    for (int k = 0; k <= p; ++k) {
+        s.h[std::size_t(k)] = c / std::ldexp(1.0, p);
+        c = c * (p - k) / (k + 1);
+    }
+    return s;
+}
+
 std::vector<double> kaiserLowpass(double rate, double passHz, double stopHz, double attenuationDb, int minTaps,
                                   int delayMultiple, int delayOffset)
 {

@@ -45,6 +45,14 @@ bool designStage1(const Stage1Plan& plan, int inputRate, FirStage& out, std::str
 
 // Half-band 2x stage keeping [0, passHz] and rejecting images by attenuationDb.
 FirStage designHalfband(double inRate, double passHz, double attenuationDb);
+// 2x stage (1 + z^-1)^p / 2^p: a p-fold zero at the output's Nyquist
+// frequency, p chosen so the images of [0, audioHz] sit attenuationDb down.
+// Only sensible where those images are narrow compared with the rate (the
+// top stages); its small pass-band droop is left to the pre-distortion.
+FirStage designBinomial(double inRate, double audioHz, double attenuationDb);
+// Runtime form a stage should use (short 2x filters run two-phase).
+inline bool runsTwoPhase(const FirStage& s) { return s.L == 2 && s.M == 1 && s.h.size() <= 64; }
+
 // Rational L/M stage with a Kaiser prototype.
 // delayOffset: the prototype's delay (N-1)/2 is made congruent to it modulo
 // M, so that with the earlier stages' delay the total is whole output samples.

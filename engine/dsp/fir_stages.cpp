@@ -21,7 +21,7 @@ PolyphaseStage::PolyphaseStage(const std::vector<double>& h, int L, int M, doubl
     base_ = -(P_ - 1);
 }
 
-void PolyphaseStage::process(const double* in, std::size_t n, std::vector<double>& out)
+void PolyphaseStage::process(const double* in, std::size_t n, Samples& out)
 {
     buf_.insert(buf_.end(), in, in + n);
     avail_ += std::int64_t(n);
@@ -48,21 +48,28 @@ void PolyphaseStage::process(const double* in, std::size_t n, std::vector<double
     }
 }
 
-HalfbandInterpolator::HalfbandInterpolator(const std::vector<double>& h)
+TwoPhaseInterpolator::TwoPhaseInterpolator(const std::vector<double>& h)
 {
-    const int n = int(h.size());
-    const int K = (n + 1) / 4;
-    K2_ = 2 * K;
-    delay_ = K - 1;
-    g_.resize(K2_);
-    for (int k = 0; k < K2_; ++k)
-        g_[k] = 2.0 * h[2 * k];
-    hist_.assign(std::size_t(K2_ - 1), 0.0);
+    for (int r = 0; r < 2; ++r) {
+        for (std::size_t j = std::size_t(r); j < h.size(); j += 2)
+            g_[r].push_back(2.0 * h[j]);
+        copyDelay_[r] = -1;
+        int nz = 0, at = 0;
+        for (std::size_t k = 0; k < g_[r].size(); ++k)
+            if (g_[r][k] != 0) {
+                ++nz;
+                at = int(k);
+            }
+        if (nz == 1 && g_[r][std::size_t(at)] == 1.0)
+            copyDelay_[r] = at;
+    }
+    H_ = int(std::max(g_[0].size(), g_[1].size())) - 1;
+    hist_.assign(std::size_t(std::max(H_, 0)), 0.0);
 }
 
-void HalfbandInterpolator::process(const double* in, std::size_t n, std::vector<double>& out)
+void TwoPhaseInterpolator::process(const double* in, std::size_t n, Samples& out)
 {
-    const std::size_t H = std::size_t(K2_ - 1);
+    const std::size_t H = std::size_t(H_);
     constexpr std::size_t kBlock = 2048;
     const std::size_t old = out.size();
     out.resize(old + 2 * n);
@@ -73,12 +80,19 @@ void HalfbandInterpolator::process(const double* in, std::size_t n, std::vector<
         work_.resize(H + m);
         std::memcpy(work_.data(), hist_.data(), H * sizeof(double));
         std::memcpy(work_.data() + H, in + done, m * sizeof(double));
-        even_.resize(m);
-        const double* w = work_.data();
-        // g_ is stored so that g_[k] multiplies x[i-k].
-        firOuter(w + H, g_.data(), K2_, even_.data(), m);
-        const double* e = even_.data();
-        const double* d = w + H - delay_;
+        const double* w = work_.data() + H;
+        const double* src[2];
+        for (int r = 0; r < 2; ++r) {
+            if (copyDelay_[r] >= 0) {
+                src[r] = w - copyDelay_[r];
+            } else {
+                ph_[r].resize(m);
+                firOuter(w, g_[r].data(), int(g_[r].size()), ph_[r].data(), m);
+                src[r] = ph_[r].data();
+            }
+        }
+        const double* e = src[0];
+        const double* d = src[1];
         for (std::size_t i = 0; i < m; ++i) {
             o[2 * i] = e[i];
             o[2 * i + 1] = d[i];
@@ -106,7 +120,7 @@ BitDecimator::BitDecimator(const std::vector<double>& h)
     hist_.assign(std::size_t(B_ - 1), 0x69); // idle pattern: silence
 }
 
-void BitDecimator::process(const std::uint8_t* bytes, std::size_t n, std::vector<double>& out)
+void BitDecimator::process(const std::uint8_t* bytes, std::size_t n, Samples& out)
 {
     std::vector<std::uint8_t> w(hist_);
     w.insert(w.end(), bytes, bytes + n);

@@ -11,11 +11,35 @@
 
 namespace zuvo::dsp::detail {
 
+// Sample buffers that do not zero what they are about to overwrite: every
+// stage resizes its output and fills it completely.
+template <class T>
+struct NoInitAllocator : std::allocator<T> {
+    template <class U>
+    struct rebind {
+        using other = NoInitAllocator<U>;
+    };
+    NoInitAllocator() = default;
+    template <class U>
+    NoInitAllocator(const NoInitAllocator<U>&) noexcept {}
+    template <class U>
+    void construct(U* p) noexcept
+    {
+        ::new (static_cast<void*>(p)) U;
+    }
+    template <class U, class... A>
+    void construct(U* p, A&&... a)
+    {
+        ::new (static_cast<void*>(p)) U(std::forward<A>(a)...);
+    }
+};
+using Samples = std::vector<double, NoInitAllocator<double>>;
+
 class Stage {
 public:
     virtual ~Stage() = default;
     // Appends the outputs produced by n inputs.
-    virtual void process(const double* in, std::size_t n, std::vector<double>& out) = 0;
+    virtual void process(const double* in, std::size_t n, Samples& out) = 0;
 };
 
 // General L/M polyphase resampler (interpolator when M == 1, decimator when
@@ -24,7 +48,7 @@ public:
 class PolyphaseStage final : public Stage {
 public:
     PolyphaseStage(const std::vector<double>& h, int L, int M, double gain);
-    void process(const double* in, std::size_t n, std::vector<double>& out) override;
+    void process(const double* in, std::size_t n, Samples& out) override;
 
 private:
     int L_, M_, P_;
@@ -36,19 +60,20 @@ private:
     std::vector<std::int32_t> phaseOf_;  // per output index modulo L_: phase
 };
 
-// 2x half-band interpolator: one branch is the centre tap (a pure delay),
-// the other a short symmetric FIR.
-class HalfbandInterpolator final : public Stage {
+// 2x interpolator with short filters (half-band or binomial): both output
+// phases are computed tap-outer across a block of inputs, and a phase that
+// is a single unit tap (the half-band's centre) is a plain copy.
+class TwoPhaseInterpolator final : public Stage {
 public:
-    explicit HalfbandInterpolator(const std::vector<double>& h); // length 4K-1
-    void process(const double* in, std::size_t n, std::vector<double>& out) override;
+    explicit TwoPhaseInterpolator(const std::vector<double>& h); // prototype at the output rate, sum 1
+    void process(const double* in, std::size_t n, Samples& out) override;
 
 private:
-    int K2_;                    // taps in the non-trivial branch (2K)
-    int delay_;                 // K-1
-    std::vector<double> g_;     // branch taps, g_[k] multiplies x[i-k]
-    std::vector<double> hist_;  // last 2K-1 inputs
-    std::vector<double> work_, even_;
+    std::vector<double> g_[2]; // phase r: g_[r][k] multiplies x[i-k]
+    int copyDelay_[2];         // >= 0: the phase is x[i - copyDelay]
+    int H_;                    // history length
+    std::vector<double> hist_;
+    Samples work_, ph_[2];
 };
 
 // First decimation stage straight from packed 1-bit data: an FIR evaluated
@@ -56,7 +81,7 @@ private:
 class BitDecimator {
 public:
     explicit BitDecimator(const std::vector<double>& h); // prototype at the DSD rate
-    void process(const std::uint8_t* bytes, std::size_t n, std::vector<double>& out);
+    void process(const std::uint8_t* bytes, std::size_t n, Samples& out);
 
 private:
     int B_;                           // bytes spanned by the filter

@@ -24,6 +24,8 @@ constexpr double kAutoHeadroomDb = 1.0;
 // Images of the audio band must sit at least this far down; the stages are
 // designed with margin above it.
 constexpr double kChainAttenuationDb = 170.0;
+constexpr double kBinomialAttenuationDb = 160.0;
+constexpr double kBinomialFromHz = 705600.0;
 
 struct ForwardDesign {
     ForwardConfig config;
@@ -166,8 +168,16 @@ std::shared_ptr<const ForwardDesign> designForward(const ForwardConfig& c, std::
     if (rate > d->dsdRate)
         return fail("input rate " + std::to_string(c.inputRate) + " Hz is too high for DSD"
                     + std::to_string(mult));
+    // Half-bands while the images are wide; from 705.6 kHz up the images of
+    // the audio band are narrow islands around multiples of the rate, and a
+    // short binomial filter with its zeros piled there rejects them as well
+    // for a third of the work.
+    const double audio = std::max(20000.0, std::min(plan.passHz, content));
     while (rate < d->dsdRate) {
-        d->stages.push_back(designHalfband(rate, std::min(content, 0.45 * rate), kChainAttenuationDb));
+        if (rate >= kBinomialFromHz)
+            d->stages.push_back(designBinomial(rate, audio, kBinomialAttenuationDb));
+        else
+            d->stages.push_back(designHalfband(rate, std::min(content, 0.45 * rate), kChainAttenuationDb));
         rate *= 2;
     }
     if (std::abs(rate - d->dsdRate) > 0.5)
@@ -220,7 +230,7 @@ struct ChannelEncoder::Impl {
     std::shared_ptr<const ForwardDesign> d;
     std::vector<std::unique_ptr<Stage>> stages;
     ModulatorRunner mod;
-    std::vector<double> a, b;
+    Samples a, b;
     std::vector<std::uint8_t> bits;
     std::int64_t skipLeft = 0;
     std::uint64_t inCount = 0, outCount = 0;
@@ -234,8 +244,8 @@ struct ChannelEncoder::Impl {
         , mod(&d->mod)
     {
         for (const auto& s : d->stages) {
-            if (s.halfband)
-                stages.push_back(std::make_unique<HalfbandInterpolator>(s.h));
+            if (runsTwoPhase(s))
+                stages.push_back(std::make_unique<TwoPhaseInterpolator>(s.h));
             else
                 stages.push_back(std::make_unique<PolyphaseStage>(s.h, s.L, s.M, double(s.L)));
         }
@@ -340,8 +350,8 @@ std::vector<double> interpolateOnly(const ForwardDesign& d, const double* in, st
 {
     std::vector<std::unique_ptr<Stage>> stages;
     for (const auto& s : d.stages) {
-        if (s.halfband)
-            stages.push_back(std::make_unique<HalfbandInterpolator>(s.h));
+        if (runsTwoPhase(s))
+            stages.push_back(std::make_unique<TwoPhaseInterpolator>(s.h));
         else
             stages.push_back(std::make_unique<PolyphaseStage>(s.h, s.L, s.M, double(s.L)));
     }
@@ -349,7 +359,8 @@ std::vector<double> interpolateOnly(const ForwardDesign& d, const double* in, st
     std::vector<double> result;
     result.reserve(total);
     std::int64_t skip = d.skip;
-    std::vector<double> a, b, zeros(4096, 0.0);
+    Samples a, b;
+    const std::vector<double> zeros(4096, 0.0);
     std::size_t pos = 0;
     int guard = 0;
     while (result.size() < total && guard++ < 1000000) {
@@ -360,7 +371,7 @@ std::vector<double> interpolateOnly(const ForwardDesign& d, const double* in, st
                 a[i] = in[pos + i] * d.gain;
             pos += k;
         } else {
-            a = zeros;
+            a.assign(zeros.begin(), zeros.end());
         }
         for (auto& s : stages) {
             b.clear();

@@ -263,8 +263,8 @@ ZUVO_CLONES static std::size_t run16(const BlockKernel& k, double* x, const doub
     return runBlocksT<16, false>(k, x, u, nb, bits, f, pk);
 }
 
-// Design-time runs that also record the state peaks; not speed-critical.
-static std::size_t runTracked(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
+// Design-time runs that also record the state peaks.
+ZUVO_CLONES static std::size_t runTracked(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
                               std::uint8_t* f, double* pk)
 {
     switch (k.np) {

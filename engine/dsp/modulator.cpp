@@ -494,7 +494,7 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
     ModulatorRunner r(&d);
     r.clipping = false;
     r.track = true;
-    const int len = 60000;
+    const int len = 40000;
     std::vector<double> u(len);
     std::vector<std::uint8_t> bits(len);
     std::vector<double> base; // reference state sizes; empty while measuring them

@@ -58,7 +58,7 @@ struct Timing {
     std::uint64_t inCount = 0, outCount = 0;
     double ratio = 1; // output samples per input unit
 
-    void emit(const std::vector<double>& src, std::vector<double>& out, std::uint64_t limit)
+    void emit(const Samples& src, std::vector<double>& out, std::uint64_t limit)
     {
         std::size_t off = 0;
         if (skipLeft > 0) {
@@ -79,7 +79,7 @@ struct ChannelDecimator::Impl {
     int outRate = 0;
     std::unique_ptr<BitDecimator> first;
     std::vector<std::unique_ptr<Stage>> stages;
-    std::vector<double> a, b;
+    Samples a, b;
     Timing tm;
     int dsdRate = 0;
 
@@ -207,7 +207,7 @@ struct ChannelResampler::Impl {
     bool ok = false;
     bool passthrough = false;
     std::unique_ptr<PolyphaseStage> stage;
-    std::vector<double> a;
+    Samples a;
     Timing tm;
 };
 

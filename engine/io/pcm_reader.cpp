@@ -1,26 +1,15 @@
 #include "io/pcm_reader.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdlib>
 #include <sndfile.h>
+
+#include "io/path_names.h"
 
 namespace zuvo::io {
 
 namespace {
 SNDFILE* sf(void* h) { return static_cast<SNDFILE*>(h); }
-
-std::string lowerExtension(const std::string& path)
-{
-    const auto slash = path.find_last_of('/');
-    const auto dot = path.find_last_of('.');
-    if (dot == std::string::npos || (slash != std::string::npos && dot < slash))
-        return {};
-    std::string ext = path.substr(dot);
-    for (char& c : ext)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return ext;
-}
 } // namespace
 
 const char* unsupportedInputFormatName(const std::string& path)

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "io/dsd_writer.h"
+#include "io/path_names.h"
 #include "io/pcm_reader.h"
 #include "run/channel_pool.h"
 #include "run/exit_codes.h"
@@ -61,7 +62,7 @@ int runForward(RunContext& ctx)
 {
     const cli::EngineOptions& o = ctx.options;
     const std::string& input = o.inputs.front();
-    const std::string ext = lowerExtension(o.output);
+    const std::string ext = io::lowerExtension(o.output);
     if (ext != ".dsf" && ext != ".dff") {
         report(ctx, "the output must end in .dsf or .dff (or use --reverse / --dxd for PCM): %s", o.output.c_str());
         return kExitUsage;

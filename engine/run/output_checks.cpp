@@ -1,6 +1,5 @@
 #include "run/output_checks.h"
 
-#include <cctype>
 #include <climits>
 #include <cstdlib>
 #include <sys/stat.h>
@@ -32,18 +31,6 @@ std::string canonical(const std::string& path)
     return path;
 }
 } // namespace
-
-std::string lowerExtension(const std::string& path)
-{
-    const auto slash = path.find_last_of('/');
-    const auto dot = path.find_last_of('.');
-    if (dot == std::string::npos || (slash != std::string::npos && dot < slash))
-        return {};
-    std::string ext = path.substr(dot);
-    for (char& c : ext)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return ext;
-}
 
 bool sameFile(const std::string& a, const std::string& b)
 {

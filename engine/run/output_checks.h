@@ -4,8 +4,6 @@
 
 namespace zuvo::run {
 
-// Lower-cased extension with its dot, "" when there is none.
-std::string lowerExtension(const std::string& path);
 // True when both paths name the same file (same inode, or the same canonical
 // path for an output that does not exist yet).
 bool sameFile(const std::string& a, const std::string& b);

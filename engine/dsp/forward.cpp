@@ -276,25 +276,8 @@ struct ChannelEncoder::Impl {
             m = std::size_t(limit - outCount);
         if (m == 0)
             return;
-        bits.resize(m);
-        mod.run(a.data() + off, m, bits.data());
+        mod.runPacked(a.data() + off, m, out, acc, nacc);
         outCount += m;
-        std::size_t i = 0;
-        if (nacc == 0) {
-            const std::size_t whole = m / 8;
-            const std::size_t o = out.size();
-            out.resize(o + whole);
-            packBits(bits.data(), whole, out.data() + o);
-            i = whole * 8;
-        }
-        for (; i < m; ++i) {
-            acc = (acc << 1) | bits[i];
-            if (++nacc == 8) {
-                out.push_back(std::uint8_t(acc));
-                acc = 0;
-                nacc = 0;
-            }
-        }
     }
 };
 

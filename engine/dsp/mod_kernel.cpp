@@ -83,6 +83,9 @@ void buildBlockKernel(const ModulatorDesign& d, BlockKernel& k)
     }
     for (int l = 1; l < K; ++l)
         k.Hv[l] = dotC(AB1[l - 1]);
+    k.symmetric = true;
+    for (int i = 0; i < n; ++i)
+        k.symmetric = k.symmetric && d.B0[i] == -d.B1[i];
     k.lim.assign(np, 1e300);
     k.limLo.assign(np, -1e300);
     for (int i = 0; i < n; ++i) {
@@ -103,7 +106,7 @@ typedef long long v4i __attribute__((vector_size(32)));
 #define ZUVO_OPAQUE(v) asm("" : "+r"(v))
 #endif
 
-template <int NP, bool TRACK>
+template <int NP, bool TRACK, bool SYM, bool PACK = false>
 __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& k, double* xio, const double* u,
                                                              std::size_t nblocks, std::uint8_t* bits,
                                                              std::uint8_t* flags, double* peak)
@@ -150,15 +153,22 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
         const double* ub = u + b * K;
         // Off the critical path: next state and next candidates from x_b.
         v4d acc0[RV], acc1[RV];
-        for (int r = 0; r < RV; ++r) {
-            acc0[r] = MuX[0][r] * ub[0];
-            acc1[r] = MuX[1][r] * ub[1];
-        }
-        for (int m = 2; m < K; m += 2)
+        if constexpr (SYM) {
             for (int r = 0; r < RV; ++r) {
-                acc0[r] += MuX[m][r] * ub[m];
-                acc1[r] += MuX[m + 1][r] * ub[m + 1];
+                acc0[r] = v4d{0, 0, 0, 0};
+                acc1[r] = v4d{0, 0, 0, 0};
             }
+        } else {
+            for (int r = 0; r < RV; ++r) {
+                acc0[r] = MuX[0][r] * ub[0];
+                acc1[r] = MuX[1][r] * ub[1];
+            }
+            for (int m = 2; m < K; m += 2)
+                for (int r = 0; r < RV; ++r) {
+                    acc0[r] += MuX[m][r] * ub[m];
+                    acc1[r] += MuX[m + 1][r] * ub[m + 1];
+                }
+        }
         for (int c = 0; c < NP; c += 2) {
             const double x0 = x[c / 4][c % 4], x1 = x[c / 4][c % 4 + 1];
             for (int r = 0; r < RV; ++r) {
@@ -196,13 +206,31 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
                 ZUVO_OPAQUE(c[i]);
             }
         }
-        std::uint8_t* bo = bits + b * K;
-        for (int j = 0; j < K; ++j)
-            bo[j] = std::bit_cast<std::uint64_t>(sg[j]) == 0;
-        for (int m = 0; m < K; ++m) {
-            const v4i sm = (v4i)(v4d){sg[m], sg[m], sg[m], sg[m]};
-            for (int r = 0; r < RV; ++r)
-                q[r] += (v4d)((v4i)Vv[m][r] ^ sm);
+        if constexpr (PACK) {
+            unsigned neg = 0;
+            for (int j = 0; j < K; ++j)
+                neg |= unsigned(std::bit_cast<std::uint64_t>(sg[j]) >> 63) << (7 - j);
+            bits[b] = std::uint8_t(~neg);
+        } else {
+            std::uint8_t* bo = bits + b * K;
+            for (int j = 0; j < K; ++j)
+                bo[j] = std::bit_cast<std::uint64_t>(sg[j]) == 0;
+        }
+        if constexpr (SYM) {
+            for (int m = 0; m < K; ++m) {
+                // v - u, with v = +-1 from the sign bit
+                const double vm = std::bit_cast<double>(std::bit_cast<std::uint64_t>(1.0)
+                                                        ^ std::bit_cast<std::uint64_t>(sg[m]));
+                const double e = vm - ub[m];
+                for (int r = 0; r < RV; ++r)
+                    q[r] += Vv[m][r] * e;
+            }
+        } else {
+            for (int m = 0; m < K; ++m) {
+                const v4i sm = (v4i)(v4d){sg[m], sg[m], sg[m], sg[m]};
+                for (int r = 0; r < RV; ++r)
+                    q[r] += (v4d)((v4i)Vv[m][r] ^ sm);
+            }
         }
         v4i over = {0, 0, 0, 0};
         for (int i = 0; i < SV; ++i)
@@ -245,22 +273,50 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
 ZUVO_CLONES static std::size_t run4(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
                                     std::uint8_t* f, double* pk)
 {
-    return runBlocksT<4, false>(k, x, u, nb, bits, f, pk);
+    return k.symmetric ? runBlocksT<4, false, true>(k, x, u, nb, bits, f, pk)
+                       : runBlocksT<4, false, false>(k, x, u, nb, bits, f, pk);
+}
+ZUVO_CLONES static std::size_t run4p(const BlockKernel& k, double* x, const double* u, std::size_t nb,
+                                     std::uint8_t* bytes, std::uint8_t* f)
+{
+    return k.symmetric ? runBlocksT<4, false, true, true>(k, x, u, nb, bytes, f, nullptr)
+                       : runBlocksT<4, false, false, true>(k, x, u, nb, bytes, f, nullptr);
 }
 ZUVO_CLONES static std::size_t run8(const BlockKernel& k, double* x, const double* u, std::size_t nb, std::uint8_t* bits,
                                     std::uint8_t* f, double* pk)
 {
-    return runBlocksT<8, false>(k, x, u, nb, bits, f, pk);
+    return k.symmetric ? runBlocksT<8, false, true>(k, x, u, nb, bits, f, pk)
+                       : runBlocksT<8, false, false>(k, x, u, nb, bits, f, pk);
+}
+ZUVO_CLONES static std::size_t run8p(const BlockKernel& k, double* x, const double* u, std::size_t nb,
+                                     std::uint8_t* bytes, std::uint8_t* f)
+{
+    return k.symmetric ? runBlocksT<8, false, true, true>(k, x, u, nb, bytes, f, nullptr)
+                       : runBlocksT<8, false, false, true>(k, x, u, nb, bytes, f, nullptr);
 }
 ZUVO_CLONES static std::size_t run12(const BlockKernel& k, double* x, const double* u, std::size_t nb,
                                      std::uint8_t* bits, std::uint8_t* f, double* pk)
 {
-    return runBlocksT<12, false>(k, x, u, nb, bits, f, pk);
+    return k.symmetric ? runBlocksT<12, false, true>(k, x, u, nb, bits, f, pk)
+                       : runBlocksT<12, false, false>(k, x, u, nb, bits, f, pk);
+}
+ZUVO_CLONES static std::size_t run12p(const BlockKernel& k, double* x, const double* u, std::size_t nb,
+                                     std::uint8_t* bytes, std::uint8_t* f)
+{
+    return k.symmetric ? runBlocksT<12, false, true, true>(k, x, u, nb, bytes, f, nullptr)
+                       : runBlocksT<12, false, false, true>(k, x, u, nb, bytes, f, nullptr);
 }
 ZUVO_CLONES static std::size_t run16(const BlockKernel& k, double* x, const double* u, std::size_t nb,
                                      std::uint8_t* bits, std::uint8_t* f, double* pk)
 {
-    return runBlocksT<16, false>(k, x, u, nb, bits, f, pk);
+    return k.symmetric ? runBlocksT<16, false, true>(k, x, u, nb, bits, f, pk)
+                       : runBlocksT<16, false, false>(k, x, u, nb, bits, f, pk);
+}
+ZUVO_CLONES static std::size_t run16p(const BlockKernel& k, double* x, const double* u, std::size_t nb,
+                                     std::uint8_t* bytes, std::uint8_t* f)
+{
+    return k.symmetric ? runBlocksT<16, false, true, true>(k, x, u, nb, bytes, f, nullptr)
+                       : runBlocksT<16, false, false, true>(k, x, u, nb, bytes, f, nullptr);
 }
 
 // Design-time runs that also record the state peaks.
@@ -268,18 +324,26 @@ ZUVO_CLONES static std::size_t runTracked(const BlockKernel& k, double* x, const
                               std::uint8_t* f, double* pk)
 {
     switch (k.np) {
-    case 4: return runBlocksT<4, true>(k, x, u, nb, bits, f, pk);
-    case 8: return runBlocksT<8, true>(k, x, u, nb, bits, f, pk);
-    case 12: return runBlocksT<12, true>(k, x, u, nb, bits, f, pk);
-    default: return runBlocksT<16, true>(k, x, u, nb, bits, f, pk);
+    case 4: return runBlocksT<4, true, false>(k, x, u, nb, bits, f, pk);
+    case 8: return runBlocksT<8, true, false>(k, x, u, nb, bits, f, pk);
+    case 12: return runBlocksT<12, true, false>(k, x, u, nb, bits, f, pk);
+    default: return runBlocksT<16, true, false>(k, x, u, nb, bits, f, pk);
     }
 }
 
 std::size_t runBlocks(const BlockKernel& k, double* x, const double* u, std::size_t nblocks, std::uint8_t* bits,
-                      std::uint8_t* flags, double* peak)
+                      std::uint8_t* flags, double* peak, bool packed)
 {
     if (peak)
         return runTracked(k, x, u, nblocks, bits, flags, peak);
+    if (packed) {
+        switch (k.np) {
+        case 4: return run4p(k, x, u, nblocks, bits, flags);
+        case 8: return run8p(k, x, u, nblocks, bits, flags);
+        case 12: return run12p(k, x, u, nblocks, bits, flags);
+        default: return run16p(k, x, u, nblocks, bits, flags);
+        }
+    }
     switch (k.np) {
     case 4: return run4(k, x, u, nblocks, bits, flags, peak);
     case 8: return run8(k, x, u, nblocks, bits, flags, peak);

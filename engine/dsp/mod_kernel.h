@@ -26,6 +26,10 @@ struct BlockKernel {
     std::vector<double> Hv;       // h_l = C A^(l-1) B1 at Hv[l]
     std::vector<double> lim;
     std::vector<double> limLo; // -lim
+    // B0 == -B1 (the input enters exactly where the output is fed back, as
+    // in the error-feedback and single-loop forms): the input's block terms
+    // then ride on the feedback columns as (v - u) and MuX is not needed.
+    bool symmetric = false;
 };
 
 struct ModulatorDesign;
@@ -35,7 +39,9 @@ void buildBlockKernel(const ModulatorDesign& d, BlockKernel& k);
 // Returns the number of blocks at which the state had to be clipped and
 // writes those block indices' flags into clippedFlags (one byte per block).
 // With `peak` (np entries) it also keeps the largest |state| seen.
+// With `packed`, bits receives one byte per block (earliest bit in bit 7)
+// instead of one 0/1 value per sample.
 std::size_t runBlocks(const BlockKernel& k, double* x, const double* u, std::size_t nblocks, std::uint8_t* bits,
-                      std::uint8_t* clippedFlags, double* peak = nullptr);
+                      std::uint8_t* clippedFlags, double* peak = nullptr, bool packed = false);
 
 } // namespace zuvo::dsp::detail

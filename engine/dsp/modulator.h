@@ -57,6 +57,9 @@ public:
     explicit ModulatorRunner(const ModulatorDesign* d);
     // u: n samples; bits: n values 0/1 (1 = +1).
     void run(const double* u, std::size_t n, std::uint8_t* bits);
+    // Same loop, appending packed bytes (earliest bit in bit 7); acc/nacc
+    // carry a partly filled byte between calls.
+    void runPacked(const double* u, std::size_t n, std::vector<std::uint8_t>& out, unsigned& acc, int& nacc);
     void reset();
     std::uint64_t overloads = 0, resets = 0;
     // Test/design hooks.
@@ -69,6 +72,8 @@ public:
 private:
     const ModulatorDesign* d_;
     void runSamples(const double* u, std::size_t n, std::uint8_t* bits);
+    // Runs whole blocks with the overload window; returns samples done.
+    std::size_t runWindowed(const double* u, std::size_t nblocks, std::uint8_t* bits, bool packed);
     std::vector<double> x_, xn_;
     std::vector<std::uint8_t> flags_;
     std::uint32_t windowCount_ = 0, windowClipped_ = 0;

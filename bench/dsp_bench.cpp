@@ -3,6 +3,9 @@
 //       WAV (16/24/32-bit PCM, 32-bit float) -> DSF, one thread per channel,
 //       as the engine does; prints the speed. The fallback when the engine
 //       CLI is not built.
+//   dsp_bench synth OUT.dsf [--oversampling N] [modulator] [--seconds S] [--level dB]
+//       a double-precision 997 Hz tone encoded straight to DSF (both
+//       channels), to measure the modulator without the source's rounding.
 //   dsp_bench sweep [--oversampling N] [modulator]
 //       input-level sweep with unity gain: overloads and in-band SNR per
 //       level, and the highest level that is still clean.
@@ -207,6 +210,37 @@ static int convert(int argc, char** argv)
     return 0;
 }
 
+// A double-precision 997 Hz tone straight into the encoder (no file and no
+// float32 rounding in the source), written as DSF for the analyser.
+static int synth(int argc, char** argv)
+{
+    if (argc < 3)
+        return 2;
+    ForwardConfig c;
+    double seconds = 8, level = -6;
+    for (int i = 3; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "--seconds") && i + 1 < argc)
+            seconds = std::atof(argv[++i]);
+        else if (!std::strcmp(argv[i], "--level") && i + 1 < argc)
+            level = std::atof(argv[++i]);
+        else if (!parseModulator(argc, argv, i, c))
+            return 2;
+    }
+    std::string err;
+    auto d = designForward(c, &err);
+    if (!d) {
+        std::fprintf(stderr, "design refused: %s\n", err.c_str());
+        return 2;
+    }
+    const auto x = zuvo_test::sine(997, 44100, std::pow(10.0, level / 20), std::size_t(seconds * 44100));
+    std::vector<std::vector<std::uint8_t>> out(1);
+    ChannelEncoder enc(d);
+    enc.process(x.data(), x.size(), out[0]);
+    enc.finish(out[0]);
+    out.push_back(out[0]);
+    return writeDsf(argv[2], dsdRateHz(*d), out) ? 0 : 1;
+}
+
 static int sweep(int argc, char** argv)
 {
     ForwardConfig c;
@@ -250,6 +284,8 @@ int main(int argc, char** argv)
         return convert(argc, argv);
     if (argc > 1 && !std::strcmp(argv[1], "sweep"))
         return sweep(argc, argv);
+    if (argc > 1 && !std::strcmp(argv[1], "synth"))
+        return synth(argc, argv);
     std::fprintf(stderr, "usage: dsp_bench convert|sweep ...\n");
     return 2;
 }

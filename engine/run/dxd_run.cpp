@@ -10,6 +10,7 @@
 #include "run/exit_codes.h"
 #include "run/levels.h"
 #include "run/output_checks.h"
+#include "run/pcm_input.h"
 #include "run/pcm_output_format.h"
 
 namespace zuvo::run {
@@ -18,27 +19,11 @@ int runDxd(RunContext& ctx)
 {
     const cli::EngineOptions& o = ctx.options;
     const std::string& input = o.inputs.front();
-    if (sameFile(input, o.output)) {
-        report(ctx, "the output is the input file: %s", o.output.c_str());
-        return kExitUsage;
-    }
-    std::string error;
     io::PcmReader reader;
-    if (!reader.open(input, &error)) {
-        report(ctx, "%s", error.c_str());
-        return kExitFailure;
-    }
+    if (const int refused = openPcmInput(ctx, reader, input, InputDetail::Plain))
+        return refused;
     const io::PcmStreamInfo& in = reader.info();
-    detail(ctx, "input: %s, %s, %d Hz, %d channel(s)", input.c_str(), in.formatName.c_str(), in.sampleRate, in.channels);
-    if (in.channels < 1 || in.channels > 8) {
-        report(ctx, "%s has %d channels; this engine takes 1 to 8", input.c_str(), in.channels);
-        return kExitFailure;
-    }
-    if (in.truncated) {
-        report(ctx, "%s is truncated: its header declares %llu bytes of audio and the file holds %llu",
-               input.c_str(), in.declaredBytes, in.presentBytes);
-        return kExitFailure;
-    }
+    std::string error;
     const auto ch = static_cast<std::size_t>(in.channels);
     std::vector<dsp::ChannelResampler> resamplers;
     for (std::size_t c = 0; c < ch; ++c) {

@@ -13,6 +13,7 @@
 #include "run/exit_codes.h"
 #include "run/levels.h"
 #include "run/output_checks.h"
+#include "run/pcm_input.h"
 
 namespace zuvo::run {
 
@@ -68,40 +69,25 @@ int runForward(RunContext& ctx)
         return kExitUsage;
     }
     const auto container = ext == ".dsf" ? io::DsdContainer::Dsf : io::DsdContainer::Dff;
-    if (sameFile(input, o.output)) {
-        report(ctx, "the output is the input file: %s", o.output.c_str());
-        return kExitUsage;
-    }
+    io::PcmReader reader;
+    const int refused = openPcmInput(ctx, reader, input, InputDetail::WithFrames, [&](const io::PcmStreamInfo& in) {
+        if (!supportedRate(in.sampleRate)) {
+            report(ctx, "%s: sample rate %d Hz is not supported (44.1 and 48 kHz families, 44100 to 384000 Hz)",
+                   input.c_str(), in.sampleRate);
+            return kExitFailure;
+        }
+        if (in.channels > io::maxChannels(container)) {
+            report(ctx, "a DSF file holds at most %d channels and %s has %d: use a .dff output",
+                   io::maxChannels(container), input.c_str(), in.channels);
+            return kExitUsage;
+        }
+        return 0;
+    });
+    if (refused)
+        return refused;
+    const io::PcmStreamInfo& in = reader.info();
 
     std::string error;
-    io::PcmReader reader;
-    if (!reader.open(input, &error)) {
-        report(ctx, "%s", error.c_str());
-        return kExitFailure;
-    }
-    const io::PcmStreamInfo& in = reader.info();
-    detail(ctx, "input: %s, %s, %d Hz, %d channel(s), %lld frames", input.c_str(), in.formatName.c_str(),
-           in.sampleRate, in.channels, static_cast<long long>(in.frames));
-    if (in.channels < 1 || in.channels > 8) {
-        report(ctx, "%s has %d channels; this engine takes 1 to 8", input.c_str(), in.channels);
-        return kExitFailure;
-    }
-    if (!supportedRate(in.sampleRate)) {
-        report(ctx, "%s: sample rate %d Hz is not supported (44.1 and 48 kHz families, 44100 to 384000 Hz)",
-               input.c_str(), in.sampleRate);
-        return kExitFailure;
-    }
-    if (in.channels > io::maxChannels(container)) {
-        report(ctx, "a DSF file holds at most %d channels and %s has %d: use a .dff output",
-               io::maxChannels(container), input.c_str(), in.channels);
-        return kExitUsage;
-    }
-    if (in.truncated) {
-        report(ctx, "%s is truncated: its header declares %llu bytes of audio and the file holds %llu",
-               input.c_str(), in.declaredBytes, in.presentBytes);
-        return kExitFailure;
-    }
-
     io::Tags tags = o.tags;
     if (o.metadataFromInput)
         tags.fillEmptyFrom(reader.tags());

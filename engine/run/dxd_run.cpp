@@ -12,6 +12,7 @@
 #include "run/output_checks.h"
 #include "run/pcm_input.h"
 #include "run/pcm_output_format.h"
+#include "run/planar_pcm_sink.h"
 
 namespace zuvo::run {
 
@@ -63,21 +64,10 @@ int runDxd(RunContext& ctx)
     if (o.swapChannels && ch >= 2)
         std::swap(source[0], source[1]);
     ChannelPool pool(ChannelPool::threadsFor(in.channels));
-    std::vector<double> block, interleaved;
-    std::vector<std::vector<double>> planar(ch), pcm(ch);
+    std::vector<double> block;
+    std::vector<std::vector<double>> planar(ch);
+    PlanarPcmSink sink(writer, ch);
     std::vector<ChannelLevel> levels(ch);
-    auto writeOut = [&]() {
-        std::size_t n = pcm[0].size();
-        for (const auto& p : pcm)
-            n = std::min(n, p.size());
-        interleaved.resize(n * ch);
-        for (std::size_t c = 0; c < ch; ++c)
-            for (std::size_t i = 0; i < n; ++i)
-                interleaved[i * ch + c] = pcm[c][i];
-        for (auto& p : pcm)
-            p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(n));
-        return writer.write(interleaved, &error);
-    };
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
     bool stopped = false;
@@ -101,9 +91,9 @@ int runDxd(RunContext& ctx)
             for (std::size_t i = 0; i < n; ++i)
                 planar[c][i] = block[i * ch + source[c]];
             levels[c].add(planar[c].data(), n, 1);
-            resamplers[c].process(planar[c].data(), n, pcm[c]);
+            resamplers[c].process(planar[c].data(), n, sink.channel(c));
         });
-        if (!writeOut()) {
+        if (!sink.flush(&error)) {
             writer.discard();
             report(ctx, "%s", error.c_str());
             return kExitFailure;
@@ -115,8 +105,11 @@ int runDxd(RunContext& ctx)
                                 elapsed > 0 ? static_cast<double>(done) / in.sampleRate / elapsed : 0);
     }
     if (!stopped) {
-        pool.run(in.channels, [&](int c) { resamplers[static_cast<std::size_t>(c)].finish(pcm[static_cast<std::size_t>(c)]); });
-        if (!writeOut()) {
+        pool.run(in.channels, [&](int ci) {
+            const auto c = static_cast<std::size_t>(ci);
+            resamplers[c].finish(sink.channel(c));
+        });
+        if (!sink.flush(&error)) {
             writer.discard();
             report(ctx, "%s", error.c_str());
             return kExitFailure;

@@ -11,6 +11,7 @@
 #include "run/exit_codes.h"
 #include "run/output_checks.h"
 #include "run/pcm_output_format.h"
+#include "run/planar_pcm_sink.h"
 
 namespace zuvo::run {
 
@@ -91,20 +92,7 @@ int runReverse(RunContext& ctx)
     const auto ch = static_cast<std::size_t>(channels);
     ChannelPool pool(ChannelPool::threadsFor(channels));
     std::vector<std::vector<std::uint8_t>> bytes;
-    std::vector<std::vector<double>> pcm(ch);
-    std::vector<double> interleaved;
-    auto writeOut = [&]() {
-        std::size_t n = pcm[0].size();
-        for (const auto& p : pcm)
-            n = std::min(n, p.size());
-        interleaved.resize(n * ch);
-        for (std::size_t c = 0; c < ch; ++c)
-            for (std::size_t i = 0; i < n; ++i)
-                interleaved[i * ch + c] = pcm[c][i];
-        for (auto& p : pcm)
-            p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(n));
-        return writer.write(interleaved, &error);
-    };
+    PlanarPcmSink sink(writer, ch);
 
     const auto started = std::chrono::steady_clock::now();
     std::uint64_t done = 0;
@@ -123,11 +111,11 @@ int runReverse(RunContext& ctx)
             }
             if (got == 0)
                 break;
-            pool.run(channels, [&](int c) {
-                const auto& b = bytes[static_cast<std::size_t>(c)];
-                decimators[static_cast<std::size_t>(c)].process(b.data(), b.size(), pcm[static_cast<std::size_t>(c)]);
+            pool.run(channels, [&](int ci) {
+                const auto c = static_cast<std::size_t>(ci);
+                decimators[c].process(bytes[c].data(), bytes[c].size(), sink.channel(c));
             });
-            if (!writeOut()) {
+            if (!sink.flush(&error)) {
                 writer.discard();
                 report(ctx, "%s", error.c_str());
                 return kExitFailure;
@@ -142,8 +130,11 @@ int runReverse(RunContext& ctx)
             break;
     }
     if (!stopped) {
-        pool.run(channels, [&](int c) { decimators[static_cast<std::size_t>(c)].finish(pcm[static_cast<std::size_t>(c)]); });
-        if (!writeOut()) {
+        pool.run(channels, [&](int ci) {
+            const auto c = static_cast<std::size_t>(ci);
+            decimators[c].finish(sink.channel(c));
+        });
+        if (!sink.flush(&error)) {
             writer.discard();
             report(ctx, "%s", error.c_str());
             return kExitFailure;

@@ -6,3 +6,5 @@ scripts/install-deps.sh
 scripts/build.sh
 export QT_QPA_PLATFORM=offscreen
 ctest --test-dir build --output-on-failure --timeout 600 "$@"
+# The session and queue suites again under the thread and address sanitizers.
+scripts/test-sanitizers.sh

@@ -7,6 +7,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QSettings>
@@ -255,6 +258,42 @@ private slots:
         QVERIFY(converting(w));
         QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
         QVERIFY(h.log().contains("[log] 转换已停止\n"));
+    }
+
+    void buttonsDriveAQueueLikeAUser()
+    {
+        Harness h(true, "out [PROGRESS] 50\nexit 0\n");
+        MainWindow w;
+        w.show();
+        auto* io = w.findChild<InputOutputPanel*>();
+        emit io->pathsOffered({h.input("one.wav"), h.input("two.wav")});
+        QLineEdit* folder = nullptr;
+        for (QLineEdit* e : w.findChildren<QLineEdit*>())
+            if (e->placeholderText().startsWith("留空 = 用上面的输出文件"))
+                folder = e;
+        QVERIFY(folder);
+        QTest::keyClicks(folder, h.outDir);
+        QPushButton* start = nullptr;
+        for (QPushButton* b : w.findChildren<QPushButton*>())
+            if (b->text() == "开始转换")
+                start = b;
+        QVERIFY(start);
+        QTest::mouseClick(start, Qt::LeftButton);
+        QVERIFY(!start->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
+        QVERIFY(start->isEnabled());
+        QCOMPARE(marks(w), (QStringList{"✓ ", "✓ "}));
+        const QList<QStringList> runs = h.recordedRuns();
+        QCOMPARE(runs.size(), 2);
+        QCOMPARE(withoutHostOptions(runs[1]).last(), h.outDir + "/two.dsf");
+        // The end of a batch is announced in a box that offers the output folder.
+        QTRY_VERIFY_WITH_TIMEOUT(w.findChild<QMessageBox*>() != nullptr, 2000);
+        auto* box = w.findChild<QMessageBox*>();
+        QCOMPARE(box->text(), QString("转换 2 个文件"));
+        QStringList buttons;
+        for (QAbstractButton* b : box->buttons())
+            buttons << b->text();
+        QVERIFY(buttons.contains("打开输出目录") && buttons.contains("关闭"));
     }
 
     void stopWithNothingRunningOnlyLogs()

@@ -125,15 +125,9 @@ int runDxd(RunContext& ctx)
     ctx.log.line("resampled %.3f s in %.3f s; %lld sample(s) clipped", seconds, elapsed, writer.clippedSamples());
     if (writer.clippedSamples() > 0)
         report(ctx, "warning: %lld sample(s) exceeded full scale and were clipped", writer.clippedSamples());
-    if (o.report || o.reportPeak || o.reportRms) {
-        const bool both = !o.reportPeak && !o.reportRms;
-        std::fprintf(stdout, "%s", levelReport(levels, both || o.reportPeak, both || o.reportRms).c_str());
-        std::fflush(stdout);
-    }
-    if (stopped) {
-        report(ctx, "stopped on request; the partial output is complete up to that point: %s", o.output.c_str());
-        return kExitStopped;
-    }
+    printLevelReport(o, levels);
+    if (stopped)
+        return reportStopped(ctx);
     return kExitOk;
 }
 

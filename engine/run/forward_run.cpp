@@ -219,15 +219,9 @@ int runForward(RunContext& ctx)
         report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
                static_cast<unsigned long long>(overloads));
     detail(ctx, "%.3f s of audio in %.3f s (%.1fx realtime)", seconds, elapsed, elapsed > 0 ? seconds / elapsed : 0.0);
-    if (o.report || o.reportPeak || o.reportRms) {
-        const bool both = !o.reportPeak && !o.reportRms;
-        std::fprintf(stdout, "%s", levelReport(levels, both || o.reportPeak, both || o.reportRms).c_str());
-        std::fflush(stdout);
-    }
-    if (stopped) {
-        report(ctx, "stopped on request; the partial output is complete up to that point: %s", o.output.c_str());
-        return kExitStopped;
-    }
+    printLevelReport(o, levels);
+    if (stopped)
+        return reportStopped(ctx);
     detail(ctx, "done: %s", o.output.c_str());
     return kExitOk;
 }

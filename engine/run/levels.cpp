@@ -20,4 +20,13 @@ std::string levelReport(const std::vector<ChannelLevel>& levels, bool peak, bool
     return out;
 }
 
+void printLevelReport(const cli::EngineOptions& o, const std::vector<ChannelLevel>& levels)
+{
+    if (!o.report && !o.reportPeak && !o.reportRms)
+        return;
+    const bool both = !o.reportPeak && !o.reportRms;
+    std::fprintf(stdout, "%s", levelReport(levels, both || o.reportPeak, both || o.reportRms).c_str());
+    std::fflush(stdout);
+}
+
 } // namespace zuvo::run

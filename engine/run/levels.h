@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/options.h"
+
 namespace zuvo::run {
 
 struct ChannelLevel {
@@ -32,5 +34,8 @@ struct ChannelLevel {
 
 // "ch1 peak -3.01 dBFS rms -6.02 dBFS" lines; which figures per the flags.
 std::string levelReport(const std::vector<ChannelLevel>& levels, bool peak, bool rms);
+// The --report / --peak / --rms summary on standard output; --report alone
+// asks for both figures. Nothing when none of them is given.
+void printLevelReport(const cli::EngineOptions& o, const std::vector<ChannelLevel>& levels);
 
 } // namespace zuvo::run

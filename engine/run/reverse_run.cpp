@@ -151,10 +151,8 @@ int runReverse(RunContext& ctx)
                  elapsed > 0 ? seconds / elapsed : 0.0, writer.clippedSamples());
     if (writer.clippedSamples() > 0)
         report(ctx, "warning: %lld sample(s) exceeded full scale and were clipped", writer.clippedSamples());
-    if (stopped) {
-        report(ctx, "stopped on request; the partial output is complete up to that point: %s", o.output.c_str());
-        return kExitStopped;
-    }
+    if (stopped)
+        return reportStopped(ctx);
     detail(ctx, "%.3f s of audio in %.3f s (%.1fx realtime); done: %s", seconds, elapsed,
            elapsed > 0 ? seconds / elapsed : 0.0, o.output.c_str());
     return kExitOk;

@@ -1,5 +1,7 @@
 #include "run/run_context.h"
 
+#include "run/exit_codes.h"
+
 namespace zuvo::run {
 
 namespace {
@@ -29,6 +31,12 @@ void detail(RunContext& ctx, const char* format, ...)
     va_start(ap, format);
     emit(ctx, ctx.options.verbose ? stderr : nullptr, format, ap);
     va_end(ap);
+}
+
+int reportStopped(RunContext& ctx)
+{
+    report(ctx, "stopped on request; the partial output is complete up to that point: %s", ctx.options.output.c_str());
+    return kExitStopped;
 }
 
 } // namespace zuvo::run

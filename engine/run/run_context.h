@@ -26,5 +26,8 @@ void report(RunContext& ctx, const char* format, ...) __attribute__((format(prin
 // Detail: on standard error with --verbose, always in the log. Standard
 // output stays for progress and the --report figures.
 void detail(RunContext& ctx, const char* format, ...) __attribute__((format(printf, 2, 3)));
+// The last word of a run that "stop" ended, after the output was finalised:
+// reports that it is valid up to that point and returns the exit code.
+int reportStopped(RunContext& ctx);
 
 } // namespace zuvo::run

@@ -50,8 +50,8 @@ FirStage designHalfband(double inRate, double passHz, double attenuationDb);
 // Only sensible where those images are narrow compared with the rate (the
 // top stages); its small pass-band droop is left to the pre-distortion.
 FirStage designBinomial(double inRate, double audioHz, double attenuationDb);
-// Runtime form a stage should use (short 2x filters run two-phase).
-inline bool runsTwoPhase(const FirStage& s) { return s.L == 2 && s.M == 1 && s.h.size() <= 64; }
+// Runtime form a stage should use: every 2x stage runs two-phase.
+inline bool runsTwoPhase(const FirStage& s) { return s.L == 2 && s.M == 1; }
 
 // Rational L/M stage with a Kaiser prototype.
 // delayOffset: the prototype's delay (N-1)/2 is made congruent to it modulo

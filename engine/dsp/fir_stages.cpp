@@ -81,22 +81,8 @@ void TwoPhaseInterpolator::process(const double* in, std::size_t n, Samples& out
         std::memcpy(work_.data(), hist_.data(), H * sizeof(double));
         std::memcpy(work_.data() + H, in + done, m * sizeof(double));
         const double* w = work_.data() + H;
-        const double* src[2];
-        for (int r = 0; r < 2; ++r) {
-            if (copyDelay_[r] >= 0) {
-                src[r] = w - copyDelay_[r];
-            } else {
-                ph_[r].resize(m);
-                firOuter(w, g_[r].data(), int(g_[r].size()), ph_[r].data(), m);
-                src[r] = ph_[r].data();
-            }
-        }
-        const double* e = src[0];
-        const double* d = src[1];
-        for (std::size_t i = 0; i < m; ++i) {
-            o[2 * i] = e[i];
-            o[2 * i + 1] = d[i];
-        }
+        interpolate2(w, g_[0].data(), int(g_[0].size()), copyDelay_[0], g_[1].data(), int(g_[1].size()),
+                     copyDelay_[1], o, m);
         o += 2 * m;
         std::memcpy(hist_.data(), work_.data() + m, H * sizeof(double));
         done += m;

@@ -73,7 +73,7 @@ private:
     int copyDelay_[2];         // >= 0: the phase is x[i - copyDelay]
     int H_;                    // history length
     std::vector<double> hist_;
-    Samples work_, ph_[2];
+    Samples work_;
 };
 
 // First decimation stage straight from packed 1-bit data: an FIR evaluated

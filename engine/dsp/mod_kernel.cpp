@@ -128,7 +128,7 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
     v4d x[SV];
     std::memcpy(x, xio, sizeof x);
 
-    auto inputTerms = [&](const double* ub, v4d* w) {
+    auto inputTerms = [&](const double* ub, v4d* w) __attribute__((always_inline)) {
         for (int r = 0; r < KV; ++r)
             w[r] = MuIn[0][r] * ub[0];
         for (int m = 1; m < K; ++m)
@@ -137,7 +137,7 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
     };
     // Candidates of the first block straight from the state.
     v4d cand[KV];
-    auto candFromState = [&](const double* ub) {
+    auto candFromState = [&](const double* ub) __attribute__((always_inline)) {
         inputTerms(ub, cand);
         for (int c = 0; c < NP; ++c)
             for (int r = 0; r < KV; ++r)

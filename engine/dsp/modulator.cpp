@@ -384,10 +384,7 @@ bool designModulator(ModulatorType type, int order, double fb, ModulatorDesign& 
     d = {};
     d.type = type;
     d.order = order;
-    double hinf = defaultHinf(type, order);
-    if (const char* e = std::getenv("ZUVO_DSP_HINF")) // design exploration only
-        hinf = std::atof(e);
-    d.ntf = synthesizeNtf(order, fb, hinf);
+    d.ntf = synthesizeNtf(order, fb, defaultHinf(type, order));
 
     Topo t;
     t.type = type;

@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <cstdio>
-#include <cstdlib>
 
 namespace zuvo::dsp {
 
@@ -167,8 +165,6 @@ ChannelDecimator::ChannelDecimator(const ReverseConfig& c, std::string* error)
         delay += (h.size() - 1) / 2.0 / (rate * 160);
     }
     m.tm.skipLeft = std::llround(delay * out);
-    if (std::getenv("ZUVO_DSP_DEBUG"))
-        std::fprintf(stderr, "decimator delay %.9f s = %.6f output samples\n", delay, delay * out);
     m.tm.ratio = double(out) / c.dsdRate;
     m.ok = true;
 }

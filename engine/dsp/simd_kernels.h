@@ -10,6 +10,10 @@ namespace zuvo::dsp::detail {
 
 // out[i] = sum_k g[k] * x[i - k], i = 0..n-1 (x[-taps+1 .. n-1] readable).
 void firOuter(const double* x, const double* g, int taps, double* out, std::size_t n);
+// 2x interpolation of n inputs into 2n interleaved outputs:
+// out[2i+r] = sum_k g_r[k] x[i-k]; a phase with copy_r >= 0 is x[i-copy_r].
+void interpolate2(const double* x, const double* g0, int n0, int copy0, const double* g1, int n1, int copy1,
+                  double* out, std::size_t n);
 // sum_j a[j] * b[j]
 double dot(const double* a, const double* b, int n);
 // Packs 0/1 bits, earliest in bit 7.

@@ -133,7 +133,7 @@ bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tag
     }
     format_ = format;
     tags_ = tags;
-    pending_.assign(static_cast<std::size_t>(format.channels), {});
+    pending_.reset(format.channels);
     validBytes_ = 0;
 
     Bytes head;
@@ -156,10 +156,10 @@ bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tag
 
 bool DffWriter::writeInterleaved(std::size_t n, std::string* error)
 {
-    const std::size_t ch = pending_.size();
+    const std::size_t ch = pending_.channels();
     interleaved_.resize(n * ch);
     for (std::size_t c = 0; c < ch; ++c) {
-        const std::uint8_t* src = pending_[c].data();
+        const std::uint8_t* src = pending_.data(c);
         std::uint8_t* dst = interleaved_.data() + c;
         for (std::size_t i = 0; i < n; ++i)
             dst[i * ch] = src[i];
@@ -167,31 +167,23 @@ bool DffWriter::writeInterleaved(std::size_t n, std::string* error)
     if (!file_.write(interleaved_.data(), interleaved_.size(), error))
         return false;
     validBytes_ += n;
-    for (auto& p : pending_)
-        p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(n));
+    pending_.drop(n);
     return true;
 }
 
 bool DffWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, std::string* error)
 {
-    for (std::size_t c = 0; c < pending_.size() && c < perChannel.size(); ++c)
-        pending_[c].insert(pending_[c].end(), perChannel[c].begin(), perChannel[c].end());
-    std::size_t common = SIZE_MAX;
-    for (const auto& p : pending_)
-        common = std::min(common, p.size());
+    pending_.append(perChannel);
+    const std::size_t common = pending_.common();
     return common == 0 || writeInterleaved(common, error);
 }
 
 bool DffWriter::finalize(std::string* error)
 {
-    std::size_t longest = 0;
-    for (const auto& p : pending_)
-        longest = std::max(longest, p.size());
-    for (auto& p : pending_)
-        p.resize(longest, kDsdSilenceMsbFirst);
+    const std::size_t longest = pending_.padToLongest();
     if (longest > 0 && !writeInterleaved(longest, error))
         return false;
-    const std::uint64_t dataBytes = validBytes_ * pending_.size();
+    const std::uint64_t dataBytes = validBytes_ * pending_.channels();
     if ((dataBytes & 1) && !file_.writeU8(0, error))
         return false;
     // The fields DSDIFF has no chunk for (album, genre, year, track) travel

@@ -1,4 +1,5 @@
 #pragma once
+#include "io/channel_backlog.h"
 #include "io/dsd_writer.h"
 
 namespace zuvo::io {
@@ -17,7 +18,7 @@ private:
     OutputFile file_;
     DsdFormat format_;
     Tags tags_;
-    std::vector<std::vector<std::uint8_t>> pending_;
+    ChannelBacklog pending_;
     std::vector<std::uint8_t> interleaved_;
     std::uint64_t validBytes_ = 0;
     std::uint64_t dsdChunkOffset_ = 0;

@@ -41,7 +41,7 @@ bool DsfWriter::open(const std::string& path, const DsdFormat& format, const Tag
     }
     format_ = format;
     tags_ = tags;
-    pending_.assign(static_cast<std::size_t>(format.channels), {});
+    pending_.reset(format.channels);
     validBytes_ = 0;
     blocks_ = 0;
     if (!file_.open(path, error))
@@ -68,15 +68,14 @@ bool DsfWriter::flushBlocks(bool padLast, std::string* error)
     const auto& rev = bitReverseTable();
     std::uint8_t block[kBlock];
     for (;;) {
-        std::size_t have = SIZE_MAX;
-        for (const auto& p : pending_)
-            have = std::min(have, p.size() - offset_);
+        const std::size_t have = pending_.common() - offset_;
         if (have == 0 || (have < kBlock && !padLast))
             return true;
-        for (auto& p : pending_) {
+        for (std::size_t c = 0; c < pending_.channels(); ++c) {
+            const std::uint8_t* p = pending_.data(c) + offset_;
             const std::size_t n = std::min(have, kBlock);
             for (std::size_t i = 0; i < n; ++i)
-                block[i] = rev[p[offset_ + i]];
+                block[i] = rev[p[i]];
             // Bytes past the valid length are ignored by readers (the sample
             // count says where the signal ends); silence keeps them harmless.
             for (std::size_t i = n; i < kBlock; ++i)
@@ -94,32 +93,25 @@ bool DsfWriter::flushBlocks(bool padLast, std::string* error)
 
 bool DsfWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, std::string* error)
 {
-    for (std::size_t c = 0; c < pending_.size() && c < perChannel.size(); ++c)
-        pending_[c].insert(pending_[c].end(), perChannel[c].begin(), perChannel[c].end());
+    pending_.append(perChannel);
     const std::size_t before = offset_;
     if (!flushBlocks(false, error))
         return false;
     validBytes_ += offset_ - before;
     // Drop what went out so the buffers stay one block deep.
-    for (auto& p : pending_)
-        p.erase(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(offset_));
+    pending_.drop(offset_);
     offset_ = 0;
     return true;
 }
 
 bool DsfWriter::finalize(std::string* error)
 {
-    // Channels that ended short are padded with silence so all are equal.
-    std::size_t longest = 0;
-    for (const auto& p : pending_)
-        longest = std::max(longest, p.size());
-    for (auto& p : pending_)
-        p.resize(longest, kDsdSilenceMsbFirst);
+    pending_.padToLongest();
     const std::size_t before = offset_;
     if (!flushBlocks(true, error))
         return false;
     validBytes_ += offset_ - before;
-    pending_.assign(pending_.size(), {});
+    pending_.drop(offset_);
     offset_ = 0;
 
     const std::uint64_t dataBytes = blocks_ * kBlock * static_cast<std::uint64_t>(format_.channels);

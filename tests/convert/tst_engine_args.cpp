@@ -515,10 +515,10 @@ void TestEngineArgs::args_data()
         ConversionSettings s = quiet();
         s.compand = true;
         s.stats = true;
-        s.spectrogram_path = "spec.png";
+        s.spectrogram_path = "spectrum.png";
         row("compand defaults, stats, spectrogram", s,
             q({}, {"--compand", "-20,-10;-40,-20", "5.000000", "100.000000", "--stats",
-                   "--spectrogram", "spec.png"}));
+                   "--spectrogram", "spectrum.png"}));
     }
     {
         ConversionSettings s = quiet();

@@ -260,7 +260,7 @@ __attribute__((always_inline)) inline std::size_t runBlocksT(const BlockKernel& 
     }
     std::memcpy(xio, x, sizeof x);
     if constexpr (TRACK)
-        for (int i = 0; i < NP; ++i)
+        for (int i = 0; i < k.n; ++i) // peak has one entry per real state
             peak[i] = std::max(peak[i], pk[i / 4][i % 4]);
     return clipped;
 }

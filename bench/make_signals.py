@@ -52,11 +52,11 @@ def main(outdir):
     # Pink: white noise shaped by 1/sqrt(f) in the frequency domain, per channel.
     pink = []
     for _ in range(2):
-        spec = np.fft.rfft(rng.standard_normal(n))
+        spectrum = np.fft.rfft(rng.standard_normal(n))
         f = np.fft.rfftfreq(n, 1 / FS)
         f[0] = f[1]
-        spec /= np.sqrt(f)
-        x = np.fft.irfft(spec, n)
+        spectrum /= np.sqrt(f)
+        x = np.fft.irfft(spectrum, n)
         x *= 10 ** (-12 / 20) / np.sqrt(np.mean(x * x))
         pink.append(x)
     pink = np.stack(pink, 1)

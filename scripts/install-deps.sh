@@ -10,5 +10,5 @@ $SUDO apt-get install -y -q --no-install-recommends \
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools \
     libqt6opengl6-dev libgl-dev libvulkan-dev qt6-qpa-plugins \
     libsndfile1-dev libliquid-dev libebur128-dev \
-    ffmpeg python3 python3-numpy \
+    ffmpeg python3 python3-numpy time \
     fonts-wqy-microhei fonts-noto-core xvfb xauth

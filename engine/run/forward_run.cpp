@@ -103,7 +103,7 @@ int runForward(RunContext& ctx)
     const dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
     auto design = dsp::designForward(config, &error);
     if (!design) {
-        report(ctx, "filter design refused: %s", error.c_str());
+        report(ctx, "design refused: %s", error.c_str());
         return kExitUsage;
     }
     const dsp::DesignSummary& summary = dsp::summary(*design);

@@ -325,6 +325,12 @@ ParsedCommandLine Parser::run()
     validate();
     if (result_.options.pdfReportAsked)
         result_.warnings.push_back("this build makes no PDF report (-pdfrp and its analysis options are ignored); the conversion goes on");
+    // The Remez routine we design with keeps its own iteration limit and grid;
+    // say so rather than let the values look as if they had been used.
+    const dsp::FirOptions& fir = result_.options.fir;
+    if (fir.maxIterations > 0 || fir.gridDensity > 0)
+        result_.warnings.push_back("--maxiterations and --griddensity are checked but not used: this build's Remez "
+                                   "design runs with its own iteration limit and grid; the conversion goes on");
     return std::move(result_);
 }
 

@@ -20,6 +20,7 @@ private slots:
     void versionAndHelp();
     void frontEndDefaultCommandLine();
     void dffWithEmptyArtistAndTitle();
+    void remezLimitsAreNotSilentlyIgnored();
     void unsupportedOptionsAllNamedBeforeOutput();
     void unknownOptionRefused();
     void badValuesRefused_data();
@@ -78,6 +79,21 @@ void EngineUsageTest::frontEndDefaultCommandLine()
     QVERIFY(QFile::exists(out));
     QCOMPARE(r.err.count("PDF"), 1); // one warning line, and the run goes on
     QVERIFY(r.out.trimmed().endsWith("[PROGRESS] 100.0"));
+}
+
+void EngineUsageTest::remezLimitsAreNotSilentlyIgnored()
+{
+    // The front-end's Remez choice always sends both limits.
+    const QString out = dir_.filePath("remez.dsf");
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--gui", "--algorithm", "--maxiterations", "100",
+                                   "--griddensity", "32", out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY(QFile::exists(out));
+    QCOMPARE(r.err.count("--maxiterations and --griddensity are checked but not used"), 1);
+
+    const RunResult plain = runEngine({"-i", tone("in.wav"), "--gui", "--algorithm", dir_.filePath("remez2.dsf")});
+    QVERIFY2(plain.exitCode == 0, qPrintable(plain.err));
+    QVERIFY(!plain.err.contains("--maxiterations"));
 }
 
 void EngineUsageTest::dffWithEmptyArtistAndTitle()

@@ -58,11 +58,7 @@ int runDxd(RunContext& ctx)
     writer.setTags(tags);
     ctx.log.line("dxd: %s %d Hz -> %d Hz, %d channel(s)", input.c_str(), in.sampleRate, o.dxdRate, in.channels);
 
-    std::vector<std::size_t> source(ch);
-    for (std::size_t c = 0; c < ch; ++c)
-        source[c] = c;
-    if (o.swapChannels && ch >= 2)
-        std::swap(source[0], source[1]);
+    const std::vector<std::size_t> source = channelSources(ch, o.swapChannels);
     ChannelPool pool(ChannelPool::threadsFor(in.channels));
     std::vector<double> block;
     std::vector<std::vector<double>> planar(ch);
@@ -87,9 +83,7 @@ int runDxd(RunContext& ctx)
         const auto n = static_cast<std::size_t>(got);
         pool.run(in.channels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
-            planar[c].resize(n);
-            for (std::size_t i = 0; i < n; ++i)
-                planar[c][i] = block[i * ch + source[c]];
+            takeChannel(block, ch, source[c], n, planar[c]);
             levels[c].add(planar[c].data(), n, 1);
             resamplers[c].process(planar[c].data(), n, sink.channel(c));
         });

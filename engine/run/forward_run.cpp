@@ -133,11 +133,7 @@ int runForward(RunContext& ctx)
     encoders.reserve(channels);
     for (std::size_t c = 0; c < channels; ++c)
         encoders.emplace_back(design);
-    std::vector<std::size_t> source(channels);
-    for (std::size_t c = 0; c < channels; ++c)
-        source[c] = c;
-    if (o.swapChannels && channels >= 2)
-        std::swap(source[0], source[1]);
+    const std::vector<std::size_t> source = channelSources(channels, o.swapChannels);
 
     ChannelPool pool(ChannelPool::threadsFor(in.channels));
     const std::size_t frames = blockFrames(in.sampleRate, dsdRate);
@@ -165,10 +161,7 @@ int runForward(RunContext& ctx)
         const auto n = static_cast<std::size_t>(got);
         pool.run(in.channels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
-            planar[c].resize(n);
-            const double* src = interleaved.data() + source[c];
-            for (std::size_t i = 0; i < n; ++i)
-                planar[c][i] = src[i * channels];
+            takeChannel(interleaved, channels, source[c], n, planar[c]);
             levels[c].add(planar[c].data(), n, 1);
             bytes[c].clear();
             encoders[c].process(planar[c].data(), n, bytes[c]);

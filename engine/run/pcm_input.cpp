@@ -1,5 +1,7 @@
 #include "run/pcm_input.h"
 
+#include <utility>
+
 #include "run/exit_codes.h"
 #include "run/output_checks.h"
 
@@ -38,6 +40,25 @@ int openPcmInput(RunContext& ctx, io::PcmReader& reader, const std::string& inpu
         return kExitFailure;
     }
     return 0;
+}
+
+std::vector<std::size_t> channelSources(std::size_t channels, bool swapFirstTwo)
+{
+    std::vector<std::size_t> source(channels);
+    for (std::size_t c = 0; c < channels; ++c)
+        source[c] = c;
+    if (swapFirstTwo && channels >= 2)
+        std::swap(source[0], source[1]);
+    return source;
+}
+
+void takeChannel(const std::vector<double>& interleaved, std::size_t channels, std::size_t source,
+                 std::size_t frames, std::vector<double>& out)
+{
+    out.resize(frames);
+    const double* src = interleaved.data() + source;
+    for (std::size_t i = 0; i < frames; ++i)
+        out[i] = src[i * channels];
 }
 
 } // namespace zuvo::run

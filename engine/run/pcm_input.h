@@ -3,6 +3,7 @@
 // the refusals both share; each run adds its own through `modeChecks`.
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "io/pcm_reader.h"
 #include "run/run_context.h"
@@ -21,5 +22,13 @@ using PcmInputChecks = std::function<int(const io::PcmStreamInfo&)>;
 // first refusal (already reported), 0 when the input is good.
 int openPcmInput(RunContext& ctx, io::PcmReader& reader, const std::string& input, InputDetail detailLine,
                  const PcmInputChecks& modeChecks = {});
+
+// Which interleaved input channel feeds each output channel: the identity,
+// or the first two swapped (--swap-channels).
+std::vector<std::size_t> channelSources(std::size_t channels, bool swapFirstTwo);
+
+// Copies one channel (`source` of `channels`) out of `frames` interleaved frames.
+void takeChannel(const std::vector<double>& interleaved, std::size_t channels, std::size_t source,
+                 std::size_t frames, std::vector<double>& out);
 
 } // namespace zuvo::run

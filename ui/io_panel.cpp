@@ -25,7 +25,9 @@ InputOutputPanel::InputOutputPanel(QWidget* parent)
     auto* addFolder = new QPushButton(tr("添加目录…"), this);
     auto* remove = new QPushButton(tr("移除选中"), this);
     auto* clear = new QPushButton(tr("清空列表"), this);
-    for (QPushButton* b : {addFiles, addFolder, remove, clear})
+    auto* preview = new QPushButton(tr("波形/频谱预览…"), this);
+    preview->setObjectName(QStringLiteral("previewButton"));
+    for (QPushButton* b : {addFiles, addFolder, remove, clear, preview})
         buttons->addWidget(b);
     buttons->addStretch(1);
     countLabel_ = new QLabel(this);
@@ -46,6 +48,7 @@ InputOutputPanel::InputOutputPanel(QWidget* parent)
     connect(addFolder, &QPushButton::clicked, this, &InputOutputPanel::chooseInputFolder);
     connect(remove, &QPushButton::clicked, this, &InputOutputPanel::removeRequested);
     connect(clear, &QPushButton::clicked, this, &InputOutputPanel::clearRequested);
+    connect(preview, &QPushButton::clicked, this, &InputOutputPanel::previewRequested);
 }
 
 QWidget* InputOutputPanel::buildOutputRows()

@@ -34,6 +34,7 @@ signals:
     void pathsOffered(const QStringList& paths);
     void removeRequested();
     void clearRequested();
+    void previewRequested();
     void outputFileChosen(const QString& path);
     // A folder was chosen but holds no audio file.
     void emptyFolderChosen();

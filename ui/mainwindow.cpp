@@ -69,6 +69,7 @@ void MainWindow::buildUi()
     connect(run_, &RunControlsPanel::startClicked, this, &MainWindow::startConversion);
     connect(run_, &RunControlsPanel::stopClicked, this, &MainWindow::stopConversion);
     connect(io_, &InputOutputPanel::pathsOffered, this, &MainWindow::addPaths);
+    connect(io_, &InputOutputPanel::previewRequested, this, &MainWindow::previewCurrentFile);
     connect(io_, &InputOutputPanel::outputFileChosen, this,
             [this](const QString& path) { appendLog(tr("设置输出文件: %1").arg(path)); });
     connect(io_, &InputOutputPanel::emptyFolderChosen, this,

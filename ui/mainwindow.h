@@ -32,6 +32,12 @@ public:
     void startConversion();
     void stopConversion();
 
+    // Preview (mainwindow_preview.cpp): the button's choice of file, the
+    // dialog on one file, and the start-up hook; true when a dialog opened.
+    void previewCurrentFile();
+    void openPreview(const QString& path, bool spectrogram = false);
+    bool runPreviewHook();
+
 private:
     void buildUi();
     void locateEngine();

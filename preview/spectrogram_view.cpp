@@ -1,0 +1,142 @@
+#include "spectrogram_view.h"
+
+#include <QFutureWatcher>
+#include <QPainter>
+#include <QtConcurrent/QtConcurrentRun>
+
+#include "plot_axes.h"
+#include "view_style.h"
+
+namespace pv {
+
+namespace {
+constexpr int kLeft = 46;
+constexpr int kRight = 78;
+constexpr int kTop = 8;
+constexpr int kBottom = 22;
+} // namespace
+
+SpectrogramView::SpectrogramView(QWidget* parent)
+    : QWidget(parent)
+{
+    setMinimumSize(360, 160);
+}
+
+SpectrogramView::~SpectrogramView()
+{
+    // A computation still running finds the flag and ends early; its result
+    // goes nowhere because the watcher dies with this view.
+    if (cancel_)
+        cancel_->store(true);
+}
+
+void SpectrogramView::setData(std::shared_ptr<const PreviewData> data)
+{
+    if (cancel_)
+        cancel_->store(true);
+    delete watcher_;
+    watcher_ = nullptr;
+    data_ = std::move(data);
+    spec_ = {};
+    computing_ = false;
+    if (data_ && data_->ok && data_->samples.size() >= std::size_t(kFftSize) && data_->sampleRate > 0) {
+        computing_ = true;
+        cancel_ = std::make_shared<std::atomic<bool>>(false);
+        watcher_ = new QFutureWatcher<Spectrogram>(this);
+        // The watcher's finished signal reaches this (GUI) thread queued.
+        connect(watcher_, &QFutureWatcher<Spectrogram>::finished, this, &SpectrogramView::takeResult);
+        watcher_->setFuture(QtConcurrent::run([data = data_, cancel = cancel_] {
+            return computeSpectrogram(data->samples.data(), data->samples.size(), data->sampleRate, cancel.get());
+        }));
+    }
+    update();
+}
+
+void SpectrogramView::takeResult()
+{
+    if (!watcher_)
+        return;
+    spec_ = watcher_->result();
+    watcher_->deleteLater();
+    watcher_ = nullptr;
+    computing_ = false;
+    update();
+    emit computed();
+}
+
+QRect SpectrogramView::plotRect() const
+{
+    return rect().adjusted(kLeft, kTop, -kRight, -kBottom);
+}
+
+int SpectrogramView::yForFrequency(double hz) const
+{
+    const QRect plot = plotRect();
+    const double nyquist = data_ ? data_->sampleRate / 2.0 : 0.0;
+    const double row = frequencyFraction(hz, nyquist) * (kImageHeight - 1);
+    // Row r occupies image line 219 - r; its centre is half a line below that line's top.
+    return plot.top() + int(std::floor((kImageHeight - 1 - row + 0.5) * plot.height() / kImageHeight));
+}
+
+void SpectrogramView::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.fillRect(rect(), style::background());
+    p.setPen(style::text());
+    if (spec_.image.isNull()) {
+        p.drawText(rect(), Qt::AlignCenter, computing_ ? QStringLiteral("computing…") : QStringLiteral("(no data)"));
+        return;
+    }
+    const QRect plot = plotRect();
+    if (plot.width() < 8 || plot.height() < 8) {
+        p.drawImage(rect(), spec_.image);
+        return;
+    }
+    p.drawImage(plot, spec_.image);
+    drawAxes(p, plot);
+    drawLegend(p, plot);
+}
+
+void SpectrogramView::drawAxes(QPainter& p, const QRect& plot) const
+{
+    QFont small = font();
+    small.setPixelSize(10);
+    p.setFont(small);
+    p.setPen(style::axis());
+    p.drawRect(plot.adjusted(0, 0, -1, -1));
+
+    const double nyquist = data_->sampleRate / 2.0;
+    for (const Tick& t : frequencyTicks(nyquist)) {
+        const int y = yForFrequency(t.value);
+        p.drawLine(plot.left() - 4, y, plot.left() - 1, y);
+        p.drawText(QRect(0, y - 7, kLeft - 6, 14), Qt::AlignRight | Qt::AlignVCenter, t.label);
+    }
+    p.drawText(QRect(0, plot.bottom() + 4, kLeft - 6, 14), Qt::AlignRight | Qt::AlignTop, QStringLiteral("Hz"));
+
+    const double seconds = double(spec_.columns) * kHop / data_->sampleRate;
+    for (const Tick& t : timeTicks(seconds, plot.width())) {
+        const int x = plot.left() + int(std::lround(t.fraction * (plot.width() - 1)));
+        p.drawLine(x, plot.bottom() + 1, x, plot.bottom() + 4);
+        p.drawText(QRect(x - 30, plot.bottom() + 5, 60, 14), Qt::AlignHCenter | Qt::AlignTop, t.label);
+    }
+}
+
+void SpectrogramView::drawLegend(QPainter& p, const QRect& plot) const
+{
+    const QRect bar(plot.right() + 10, plot.top(), 12, plot.height());
+    for (int y = 0; y < bar.height(); ++y) {
+        const double level = bar.height() > 1 ? double(y) / (bar.height() - 1) : 0.0;
+        p.setPen(QColor::fromRgb(paletteColour(level)));
+        p.drawLine(bar.left(), bar.top() + y, bar.right(), bar.top() + y);
+    }
+    p.setPen(style::axis());
+    p.drawRect(bar.adjusted(0, 0, -1, -1));
+    for (int db = 0; db >= int(kFloorDb); db -= 20) {
+        const int y = bar.top() + int(std::lround(db / kFloorDb * (bar.height() - 1)));
+        p.drawLine(bar.right() + 1, y, bar.right() + 3, y);
+        const QString label = db == 0 ? QStringLiteral("0 dB") : QString::number(db);
+        p.drawText(QRect(bar.right() + 5, y - 7, kRight - 28, 14), Qt::AlignLeft | Qt::AlignVCenter, label);
+    }
+}
+
+} // namespace pv

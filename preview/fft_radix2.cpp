@@ -21,12 +21,14 @@ Radix2Fft::Radix2Fft(int size)
             swapPairs_.push_back(j);
         }
     }
-    cos_.resize(std::size_t(n_ / 2));
-    sin_.resize(std::size_t(n_ / 2));
-    for (int k = 0; k < n_ / 2; ++k) {
-        const double a = -2.0 * std::numbers::pi * k / n_;
-        cos_[std::size_t(k)] = std::cos(a);
-        sin_[std::size_t(k)] = std::sin(a);
+    for (int len = 2; len <= n_; len <<= 1) {
+        for (int k = 0; k < len / 2; ++k) {
+            // Reduced to a multiple of the full size's step so that every stage
+            // takes bit-identical values from one angle grid.
+            const double a = -2.0 * std::numbers::pi * double(k * (n_ / len)) / n_;
+            cos_.push_back(std::cos(a));
+            sin_.push_back(std::sin(a));
+        }
     }
 }
 
@@ -38,17 +40,26 @@ void Radix2Fft::transform(double* re, double* im) const
         std::swap(re[i], re[j]);
         std::swap(im[i], im[j]);
     }
-    for (int len = 2; len <= n_; len <<= 1) {
+    // The first stage needs no twiddle at all.
+    for (int i = 0; i + 1 < n_; i += 2) {
+        const double tr = re[i + 1], ti = im[i + 1];
+        re[i + 1] = re[i] - tr;
+        im[i + 1] = im[i] - ti;
+        re[i] += tr;
+        im[i] += ti;
+    }
+    for (int len = 4; len <= n_; len <<= 1) {
         const int half = len / 2;
-        const int step = n_ / len;
+        const double* wc = cos_.data() + (half - 1);
+        const double* ws = sin_.data() + (half - 1);
         for (int start = 0; start < n_; start += len) {
             double* ar = re + start;
             double* ai = im + start;
             double* br = ar + half;
             double* bi = ai + half;
             for (int k = 0; k < half; ++k) {
-                const double wr = cos_[std::size_t(k * step)];
-                const double wi = sin_[std::size_t(k * step)];
+                const double wr = wc[k];
+                const double wi = ws[k];
                 const double tr = br[k] * wr - bi[k] * wi;
                 const double ti = br[k] * wi + bi[k] * wr;
                 br[k] = ar[k] - tr;

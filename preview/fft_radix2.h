@@ -15,6 +15,8 @@ public:
 private:
     int n_;
     std::vector<int> swapPairs_; // bit-reversal swaps, flattened (i, j) with i < j
+    // Twiddles stage after stage, each stage's run contiguous: the stage of
+    // length L starts at L/2 − 1 and holds e^{−2πik/L} for k < L/2.
     std::vector<double> cos_;
     std::vector<double> sin_;
 };

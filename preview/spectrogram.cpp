@@ -1,6 +1,5 @@
 #include "spectrogram.h"
 
-#include <QColor>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -76,7 +75,12 @@ QRgb paletteColour(double u)
         for (double& x : c)
             x += (1.0 - x) * w;
     }
-    return QColor::fromRgbF(float(c[0]), float(c[1]), float(c[2]), 1.0f).rgb();
+    // The same rounding as QColor::fromRgbF(...).rgb(): to 16 bits, then to 8.
+    const auto to8 = [](double x) {
+        const unsigned wide = unsigned(std::lround(std::clamp(float(x), 0.0f, 1.0f) * 65535.0f));
+        return int((wide - (wide >> 8) + 0x80) >> 8);
+    };
+    return qRgb(to8(c[0]), to8(c[1]), to8(c[2]));
 }
 
 Spectrogram computeSpectrogram(const float* samples, std::size_t count, double sampleRate,

@@ -12,7 +12,7 @@ namespace pv {
 namespace {
 constexpr int kLeft = 46;
 constexpr int kRight = 78;
-constexpr int kTop = 8;
+constexpr int kTop = 10;
 constexpr int kBottom = 22;
 } // namespace
 
@@ -111,7 +111,8 @@ void SpectrogramView::drawAxes(QPainter& p, const QRect& plot) const
         p.drawLine(plot.left() - 4, y, plot.left() - 1, y);
         p.drawText(QRect(0, y - 7, kLeft - 6, 14), Qt::AlignRight | Qt::AlignVCenter, t.label);
     }
-    p.drawText(QRect(0, plot.bottom() + 4, kLeft - 6, 14), Qt::AlignRight | Qt::AlignTop, QStringLiteral("Hz"));
+    // The unit sits at the far left, clear of the right-aligned tick labels.
+    p.drawText(QRect(2, plot.top(), 14, plot.height()), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Hz"));
 
     const double seconds = double(spec_.columns) * kHop / data_->sampleRate;
     for (const Tick& t : timeTicks(seconds, plot.width())) {

@@ -8,3 +8,5 @@ export QT_QPA_PLATFORM=offscreen
 ctest --test-dir build --output-on-failure --timeout 600 "$@"
 # The session and queue suites again under the thread and address sanitizers.
 scripts/test-sanitizers.sh
+# The preview WAV reader under libFuzzer, briefly.
+fuzz/run_preview.sh -max_total_time=20

@@ -196,10 +196,10 @@ private slots:
     {
         // A half-scale tone, then the same tone driven into the rails.
         QByteArray data = sine16(440.0, 8000, 8000, 0.5);
-        const QByteArray loud = sine16(440.0, 8000, 8000, 1.5 * 32767.0 / 32767.0);
-        for (int i = 0; i < loud.size(); i += 2) {
-            const qint16 v = qFromLittleEndian<qint16>(loud.constData() + i);
-            data += le16(std::clamp(int(v * 2), -32768, 32767));
+        const QByteArray full = sine16(440.0, 8000, 8000, 1.0);
+        for (int i = 0; i < full.size(); i += 2) {
+            const qint16 v = qFromLittleEndian<qint16>(full.constData() + i);
+            data += le16(std::clamp(2 * int(v), -32768, 32767));
         }
         pv::PreviewDialog d(write(dir_.filePath("clipped.wav"), riff(chunk("fmt ", fmtBody(1, 1, 8000, 16)) + chunk("data", data))));
         d.show();

@@ -25,6 +25,8 @@ WaveformView::WaveformView(QWidget* parent)
 void WaveformView::setData(std::shared_ptr<const PreviewData> data)
 {
     data_ = std::move(data);
+    envelope_.clear();
+    envelopeWidth_ = -1;
     update();
 }
 
@@ -60,37 +62,43 @@ void WaveformView::paintEvent(QPaintEvent*)
                QStringLiteral("%1 s").arg(QString::number(seconds, 'f', 1)));
 }
 
-void WaveformView::drawEnvelope(QPainter& p, const QRect& plot) const
+const std::vector<WaveformView::Column>& WaveformView::envelope(int w) const
 {
+    if (w == envelopeWidth_)
+        return envelope_;
+    envelopeWidth_ = w;
+    envelope_.assign(std::size_t(std::max(w, 0)), Column{});
     const std::vector<float>& s = data_->samples;
     const std::size_t n = s.size();
-    const int w = plot.width();
-    const double half = (plot.height() - 1) / 2.0;
-    const double mid = plot.top() + half;
-    const auto yOf = [&](float v) {
-        const double c = std::clamp(double(v), -1.0, 1.0);
-        return int(std::lround(mid - c * half));
-    };
     for (int x = 0; x < w; ++x) {
         const std::size_t i0 = std::size_t(double(x) * n / w);
-        const std::size_t i1 = std::max(i0 + 1, std::size_t(double(x + 1) * n / w));
-        if (i0 >= n)
-            break;
-        float lo = 0.0f, hi = 0.0f;
-        bool any = false, clipped = false;
-        for (std::size_t i = i0; i < std::min(i1, n); ++i) {
+        const std::size_t i1 = std::min(n, std::max(i0 + 1, std::size_t(double(x + 1) * n / w)));
+        Column& col = envelope_[std::size_t(x)];
+        for (std::size_t i = i0; i < i1; ++i) {
             const float v = s[i];
             if (!std::isfinite(v))
                 continue;
-            lo = any ? std::min(lo, v) : v;
-            hi = any ? std::max(hi, v) : v;
-            any = true;
-            clipped = clipped || std::fabs(v) >= kClipLevel;
+            col.lo = col.any ? std::min(col.lo, v) : v;
+            col.hi = col.any ? std::max(col.hi, v) : v;
+            col.any = true;
+            col.clipped = col.clipped || std::fabs(v) >= kClipLevel;
         }
-        if (!any)
+    }
+    return envelope_;
+}
+
+void WaveformView::drawEnvelope(QPainter& p, const QRect& plot) const
+{
+    const double half = (plot.height() - 1) / 2.0;
+    const double mid = plot.top() + half;
+    const auto yOf = [&](float v) { return int(std::lround(mid - std::clamp(double(v), -1.0, 1.0) * half)); };
+    const std::vector<Column>& columns = envelope(plot.width());
+    for (int x = 0; x < int(columns.size()); ++x) {
+        const Column& c = columns[std::size_t(x)];
+        if (!c.any)
             continue;
-        p.setPen(clipped ? style::clipped() : style::wave());
-        p.drawLine(plot.left() + x, yOf(hi), plot.left() + x, yOf(lo));
+        p.setPen(c.clipped ? style::clipped() : style::wave());
+        p.drawLine(plot.left() + x, yOf(c.hi), plot.left() + x, yOf(c.lo));
     }
 }
 
@@ -101,7 +109,7 @@ void WaveformView::drawAxes(QPainter& p, const QRect& plot) const
     p.setFont(small);
     const double half = (plot.height() - 1) / 2.0;
     const double mid = plot.top() + half;
-    for (double a : {1.0, 0.5, -0.5, -1.0}) {
+    for (double a : {1.0, 0.5, 0.0, -0.5, -1.0}) {
         const int y = int(std::lround(mid - a * half));
         p.setPen(style::grid());
         p.drawLine(plot.left(), y, plot.right(), y);

@@ -1,6 +1,7 @@
 #pragma once
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 #include "preview_reader.h"
 
@@ -21,10 +22,20 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Column {
+        float lo = 0.0f;
+        float hi = 0.0f;
+        bool any = false;
+        bool clipped = false;
+    };
+    // Min/max per pixel column, recomputed only when the width changes.
+    const std::vector<Column>& envelope(int width) const;
     void drawEnvelope(class QPainter& p, const QRect& plot) const;
     void drawAxes(class QPainter& p, const QRect& plot) const;
 
     std::shared_ptr<const PreviewData> data_;
+    mutable std::vector<Column> envelope_;
+    mutable int envelopeWidth_ = -1;
 };
 
 } // namespace pv

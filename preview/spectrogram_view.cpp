@@ -1,10 +1,9 @@
 #include "spectrogram_view.h"
 
-#include <QFutureWatcher>
 #include <QPainter>
-#include <QtConcurrent/QtConcurrentRun>
 
 #include "plot_axes.h"
+#include "spectrogram_job.h"
 #include "view_style.h"
 
 namespace pv {
@@ -24,41 +23,41 @@ SpectrogramView::SpectrogramView(QWidget* parent)
 
 SpectrogramView::~SpectrogramView()
 {
-    // A computation still running finds the flag and ends early; its result
-    // goes nowhere because the watcher dies with this view.
-    if (cancel_)
-        cancel_->store(true);
+    dropJob();
+}
+
+void SpectrogramView::dropJob()
+{
+    // A computation still running finds the flag and ends early; with the
+    // connection gone its result could not reach this view anyway.
+    if (job_) {
+        disconnect(job_.get(), nullptr, this, nullptr);
+        job_->cancel();
+        job_.reset();
+    }
 }
 
 void SpectrogramView::setData(std::shared_ptr<const PreviewData> data)
 {
-    if (cancel_)
-        cancel_->store(true);
-    delete watcher_;
-    watcher_ = nullptr;
+    dropJob();
     data_ = std::move(data);
     spec_ = {};
     computing_ = false;
     if (data_ && data_->ok && data_->samples.size() >= std::size_t(kFftSize) && data_->sampleRate > 0) {
         computing_ = true;
-        cancel_ = std::make_shared<std::atomic<bool>>(false);
-        watcher_ = new QFutureWatcher<Spectrogram>(this);
-        // The watcher's finished signal reaches this (GUI) thread queued.
-        connect(watcher_, &QFutureWatcher<Spectrogram>::finished, this, &SpectrogramView::takeResult);
-        watcher_->setFuture(QtConcurrent::run([data = data_, cancel = cancel_] {
-            return computeSpectrogram(data->samples.data(), data->samples.size(), data->sampleRate, cancel.get());
-        }));
+        job_ = SpectrogramJob::start(data_);
+        // Emitted on the pool thread, so queued to this (GUI) thread.
+        connect(job_.get(), &SpectrogramJob::ready, this, &SpectrogramView::takeResult, Qt::QueuedConnection);
     }
     update();
 }
 
 void SpectrogramView::takeResult()
 {
-    if (!watcher_)
+    if (!job_ || sender() != job_.get())
         return;
-    spec_ = watcher_->result();
-    watcher_->deleteLater();
-    watcher_ = nullptr;
+    spec_ = job_->take();
+    job_.reset();
     computing_ = false;
     update();
     emit computed();

@@ -1,13 +1,9 @@
 #pragma once
 #include <QWidget>
-#include <atomic>
 #include <memory>
 
 #include "preview_reader.h"
 #include "spectrogram.h"
-
-template <typename T>
-class QFutureWatcher;
 
 namespace pv {
 
@@ -40,10 +36,11 @@ private:
     void drawAxes(class QPainter& p, const QRect& plot) const;
     void drawLegend(class QPainter& p, const QRect& plot) const;
 
+    void dropJob();
+
     std::shared_ptr<const PreviewData> data_;
     Spectrogram spec_;
-    QFutureWatcher<Spectrogram>* watcher_ = nullptr;
-    std::shared_ptr<std::atomic<bool>> cancel_;
+    std::shared_ptr<class SpectrogramJob> job_;
     bool computing_ = false;
 };
 

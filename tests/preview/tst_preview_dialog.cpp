@@ -160,6 +160,26 @@ private slots:
         QTest::qWait(300);
     }
 
+    void onlyTheLatestSignalIsShown()
+    {
+        pv::PreviewData first;
+        QVERIFY(pv::readPreview(fiveMinutes_, first));
+        auto second = std::make_shared<pv::PreviewData>();
+        second->ok = true;
+        second->sampleRate = 8000.0;
+        second->channels = 1;
+        second->samples.assign(4096, 0.25f);
+        pv::SpectrogramView view;
+        QSignalSpy computed(&view, &pv::SpectrogramView::computed);
+        view.setData(std::make_shared<pv::PreviewData>(std::move(first)));
+        view.setData(second);
+        QVERIFY(computed.wait(20000));
+        QCOMPARE(view.columns(), 8);
+        QTest::qWait(300);
+        QCOMPARE(computed.count(), 1);
+        QCOMPARE(view.columns(), 8);
+    }
+
     void toneLineSitsOnItsFrequency()
     {
         pv::PreviewDialog d(fiveMinutes_);

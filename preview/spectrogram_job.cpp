@@ -4,7 +4,7 @@
 
 namespace pv {
 
-std::shared_ptr<SpectrogramJob> SpectrogramJob::start(std::shared_ptr<const PreviewData> data)
+std::shared_ptr<SpectrogramJob> SpectrogramJob::create(std::shared_ptr<const PreviewData> data)
 {
     // A QObject belongs to the GUI thread, so it is deleted there, later,
     // even when the worker lets go of it last.
@@ -13,9 +13,13 @@ std::shared_ptr<SpectrogramJob> SpectrogramJob::start(std::shared_ptr<const Prev
         const std::lock_guard lock(job->mutex_);
         job->data_ = std::move(data);
     }
+    return job;
+}
+
+void SpectrogramJob::start(const std::shared_ptr<SpectrogramJob>& job)
+{
     // The global pool is waited for when the application ends.
     QThreadPool::globalInstance()->start([job] { job->run(); });
-    return job;
 }
 
 void SpectrogramJob::run()

@@ -16,9 +16,10 @@ namespace pv {
 class SpectrogramJob : public QObject {
     Q_OBJECT
 public:
-    // Starts the computation; the returned job stays valid for as long as
-    // anybody holds it, whatever happens to the view.
-    static std::shared_ptr<SpectrogramJob> start(std::shared_ptr<const PreviewData> data);
+    // A job stays valid for as long as anybody holds it, whatever happens
+    // to the view. Connect to `ready` before calling `start`.
+    static std::shared_ptr<SpectrogramJob> create(std::shared_ptr<const PreviewData> data);
+    static void start(const std::shared_ptr<SpectrogramJob>& job);
 
     void cancel() { cancel_.store(true, std::memory_order_relaxed); }
     // The result once `ready` was emitted; empty before.

@@ -45,9 +45,11 @@ void SpectrogramView::setData(std::shared_ptr<const PreviewData> data)
     computing_ = false;
     if (data_ && data_->ok && data_->samples.size() >= std::size_t(kFftSize) && data_->sampleRate > 0) {
         computing_ = true;
-        job_ = SpectrogramJob::start(data_);
-        // Emitted on the pool thread, so queued to this (GUI) thread.
+        job_ = SpectrogramJob::create(data_);
+        // Emitted on the pool thread, so queued to this (GUI) thread; connected
+        // first, because a short signal may be done at once.
         connect(job_.get(), &SpectrogramJob::ready, this, &SpectrogramView::takeResult, Qt::QueuedConnection);
+        SpectrogramJob::start(job_);
     }
     update();
 }

@@ -46,6 +46,8 @@ public:
     // (before a run or a preset save): the only two ways a record moves.
     void applySettings(const ConversionSettings& settings);
     ConversionSettings collectSettings();
+    // The controls' part of collectSettings, written over `settings`.
+    void collectInto(ConversionSettings& settings);
 
     // The parameter pages. Pages of other features join with insertPage
     // (ParameterTabs), e.g. playback at 5 and recording at 7.

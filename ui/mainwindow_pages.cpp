@@ -102,6 +102,15 @@ void MainWindow::applySettings(const ConversionSettings& settings)
 ConversionSettings MainWindow::collectSettings()
 {
     ConversionSettings s = settings_;
+    collectInto(s);
+    s.log_file = ensureEngineLogPath();
+    if (const int dropped = eq_->invalidRowCount(); dropped > 0)
+        appendLog(tr("均衡器: %1 行无效 (需中心频率>0) 已被跳过").arg(dropped));
+    return s;
+}
+
+void MainWindow::collectInto(ConversionSettings& s)
+{
     io_->collectInto(s);
     basic_->collect(s);
     filter_->collect(s);
@@ -110,10 +119,6 @@ ConversionSettings MainWindow::collectSettings()
     channels_->collect(s);
     advanced_->collect(s);
     s.verbose_log = run_->verbose();
-    s.log_file = ensureEngineLogPath();
-    if (const int dropped = eq_->invalidRowCount(); dropped > 0)
-        appendLog(tr("均衡器: %1 行无效 (需中心频率>0) 已被跳过").arg(dropped));
-    return s;
 }
 
 void MainWindow::showEqDemo()

@@ -89,6 +89,11 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(queue->isConverting(), 5000);
         QTRY_VERIFY_WITH_TIMEOUT(!queue->isConverting(), 120000);
         QCOMPARE(dsfSampleRate(output), quint32(5644800));
+        // The engine's own log names the command line it was given.
+        QFile log(dir.filePath("engine.log"));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray text = log.readAll();
+        QVERIFY2(text.contains("\"--oversampling\" \"128\"") && text.contains("\"--sos-ef\""), text.constData());
     }
 };
 

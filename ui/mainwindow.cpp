@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QProgressBar>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -52,14 +53,22 @@ void MainWindow::buildUi()
     run_ = new RunControlsPanel(central);
     buildPages();
     // The pages get the room; the file list and the log shrink to a few
-    // lines first (they scroll), so nothing overlaps in a small window.
+    // lines first (they scroll), and the splitter lets the user trade
+    // between the three, so nothing overlaps in a small window.
     for (QWidget* w : std::initializer_list<QWidget*>{io_->fileList(), run_->log()}) {
         w->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
         w->setMinimumHeight(64);
     }
-    layout->addWidget(io_, 1);
-    layout->addWidget(tabs_, 4);
-    layout->addWidget(run_, 1);
+    tabs_->setMinimumHeight(200);
+    auto* split = new QSplitter(Qt::Vertical, central);
+    split->addWidget(io_);
+    split->addWidget(tabs_);
+    split->addWidget(run_);
+    split->setChildrenCollapsible(false);
+    split->setStretchFactor(0, 0);
+    split->setStretchFactor(1, 1);
+    split->setStretchFactor(2, 0);
+    layout->addWidget(split);
     setCentralWidget(central);
     // The status bar's permanent widgets (language, updates) join at its right end.
     statusBar();

@@ -4,6 +4,8 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QTabWidget>
 #include <QFile>
 #include <QGroupBox>
 #include <QLayout>
@@ -320,6 +322,17 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&w));
         QCoreApplication::processEvents();
         QVERIFY(w.width() <= 1000 && w.height() <= 700); // a small screen's window still fits
+        // For a look by eye: ZUVO_TEST_SHOT_DIR=/tmp keeps a picture of each page at this size.
+        if (const QString shots = qEnvironmentVariable("ZUVO_TEST_SHOT_DIR"); !shots.isEmpty()) {
+            auto* tabs = w.findChild<QTabWidget*>();
+            for (int i = 0; i < tabs->count(); ++i) {
+                tabs->setCurrentIndex(i);
+                QCoreApplication::processEvents();
+                w.grab().save(QDir(shots).filePath(QStringLiteral("small-%1.png").arg(i)));
+            }
+            tabs->setCurrentIndex(0);
+            QCoreApplication::processEvents();
+        }
         int checked = 0;
         for (QWidget* parent : w.findChildren<QWidget*>()) {
             if (!parent->layout() || !parent->isVisible())

@@ -13,14 +13,15 @@
 SpatialTonePage::SpatialTonePage(QWidget* parent)
     : QWidget(parent)
 {
+    // Three columns: HRTF, surround, then tone with DSRE below it.
     auto* grid = new QGridLayout(this);
-    grid->addWidget(buildHrtf(), 0, 0);
-    grid->addWidget(buildSurround(), 0, 1);
-    grid->addWidget(buildTone(), 1, 0);
-    grid->addWidget(buildDsre(), 1, 1);
-    grid->setRowStretch(2, 1);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
+    grid->addWidget(buildHrtf(), 0, 0, 2, 1);
+    grid->addWidget(buildSurround(), 0, 1, 2, 1);
+    grid->addWidget(buildTone(), 0, 2);
+    grid->addWidget(buildDsre(), 1, 2);
+    grid->setRowStretch(1, 1);
+    for (int c = 0; c < 3; ++c)
+        grid->setColumnStretch(c, 1);
 }
 
 QCheckBox* SpatialTonePage::switchFor(QGroupBox* group, const QString& label, const QString& onText,
@@ -57,7 +58,7 @@ QWidget* SpatialTonePage::buildHrtf()
     note->setStyleSheet(QStringLiteral("color: palette(mid);"));
     form->addRow(note);
     layout->addWidget(hrtf_);
-    layout->addWidget(hrtfGroup_);
+    layout->addWidget(hrtfGroup_, 1);
     return column;
 }
 
@@ -80,7 +81,7 @@ QWidget* SpatialTonePage::buildSurround()
     form->addRow(surroundSide_);
     form->addRow(tr("平衡 (-100~100, 0=不发):"), surroundBalance_);
     layout->addWidget(surround_);
-    layout->addWidget(surroundGroup_);
+    layout->addWidget(surroundGroup_, 1);
     return column;
 }
 
@@ -110,8 +111,7 @@ QWidget* SpatialTonePage::buildDsre()
     dsreMix_ = makeDoubleSpin(dsreGroup_, 0.0, 1.0, 2, 0.05, 0.35);
     form->addRow(tr("干湿比 (0=dry, 1=全效果):"), dsreMix_);
     layout->addWidget(dsre_);
-    layout->addWidget(dsreGroup_);
-    layout->addStretch(1);
+    layout->addWidget(dsreGroup_, 1);
     return column;
 }
 

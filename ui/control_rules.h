@@ -5,9 +5,9 @@
 // What switching DST on does to the output: DST exists only in DSDIFF.
 struct DstOutputFix {
     enum Kind {
-        None,      // the output is DFF already
-        SetFormat, // batch mode: the format combo becomes "dff"
-        SetFile,   // single-file mode: the output file becomes `file`
+        None,
+        SetFormat, // batch mode with another format: the format combo becomes "dff"
+        SetFile,   // otherwise: the output file becomes `file`
     };
     Kind kind = None;
     QString file;

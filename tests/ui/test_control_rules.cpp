@@ -101,11 +101,12 @@ private slots:
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("newFile");
         QTest::newRow("batch, dsf") << "/out" << "dsf" << "" << int(DstOutputFix::SetFormat) << "";
-        QTest::newRow("batch, dff") << "/out" << "dff" << "" << int(DstOutputFix::None) << "";
+        QTest::newRow("batch, dff") << "/out" << "dff" << "/x/a.dsf" << int(DstOutputFix::SetFile) << "/x/a.dff";
         QTest::newRow("empty file") << "" << "dsf" << "" << int(DstOutputFix::SetFile) << "output.dff";
         QTest::newRow("dsf file") << "" << "dsf" << "/a.b/song.dsf" << int(DstOutputFix::SetFile) << "/a.b/song.dff";
         QTest::newRow("no extension") << "" << "dsf" << "/a.b/song" << int(DstOutputFix::SetFile) << "/a.b/song.dff";
-        QTest::newRow("already DFF") << "  " << "dsf" << "/x/song.DFF" << int(DstOutputFix::None) << "";
+        QTest::newRow("blank folder, DFF file") << "  " << "dsf" << "/x/song.DFF" << int(DstOutputFix::SetFile)
+                                                << "/x/song.dff";
     }
     void dstOutputFixTable()
     {

@@ -1,5 +1,6 @@
 #include "eq_curve_widget.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -21,8 +22,7 @@ QString hzLabel(double hz)
 
 } // namespace
 
-EqCurveWidget::EqCurveWidget(QWidget* parent)
-    : QWidget(parent)
+EqCurveWidget::EqCurveWidget(QWidget* parent) : QWidget(parent)
 {
     setMinimumSize(240, 150);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -126,6 +126,7 @@ void EqCurveWidget::paintEvent(QPaintEvent*)
     p.setClipping(false);
     if (!enabled_) {
         p.setPen(textColor);
-        p.drawText(plot.adjusted(6, 4, -6, -4), Qt::AlignTop | Qt::AlignRight, tr("均衡器未启用"));
+        p.drawText(plot.adjusted(6, 4, -6, -4), Qt::AlignTop | Qt::AlignRight,
+                   QCoreApplication::translate("MainWindow", "均衡器未启用"));
     }
 }

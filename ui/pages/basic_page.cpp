@@ -1,5 +1,6 @@
 #include "basic_page.h"
 
+#include <QCoreApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,8 +23,8 @@ const int kRates[] = {64, 128, 256, 512, 1024, 2048, 4096, 8192};
 
 QStringList BasicPage::modulatorOptions()
 {
-    return {tr("单环 (NS, --order 9)"), QStringLiteral("MASH 4-2-1"), QStringLiteral("SOS-EF"),
-            QStringLiteral("CIFB")};
+    return {QCoreApplication::translate("MainWindow", "单环 (NS, --order 9)"), QStringLiteral("MASH 4-2-1"),
+            QStringLiteral("SOS-EF"), QStringLiteral("CIFB")};
 }
 
 QList<MasterPreset> BasicPage::masterPresets()
@@ -31,14 +32,16 @@ QList<MasterPreset> BasicPage::masterPresets()
     // The indices are list positions (6 = DSD-4096, 5 = DSD-2048) and are
     // kept so, whatever the tooltips say.
     return {
-        {tr("古典"), tr("古典: DSD-256, 131072 taps, 高带宽"), 6, 131072, true},
-        {tr("流行"), tr("流行: DSD-128, 65536 taps"), 5, 65536, false},
-        {tr("爵士"), tr("爵士: DSD-128, 65536 taps"), 5, 65536, false},
+        {QCoreApplication::translate("MainWindow", "古典"),
+         QCoreApplication::translate("MainWindow", "古典: DSD-256, 131072 taps, 高带宽"), 6, 131072, true},
+        {QCoreApplication::translate("MainWindow", "流行"),
+         QCoreApplication::translate("MainWindow", "流行: DSD-128, 65536 taps"), 5, 65536, false},
+        {QCoreApplication::translate("MainWindow", "爵士"),
+         QCoreApplication::translate("MainWindow", "爵士: DSD-128, 65536 taps"), 5, 65536, false},
     };
 }
 
-BasicPage::BasicPage(QWidget* parent)
-    : QWidget(parent)
+BasicPage::BasicPage(QWidget* parent) : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);
     upper_ = buildRateAndModulator();
@@ -57,9 +60,9 @@ QWidget* BasicPage::buildRateAndModulator()
     for (int r : kRates)
         rate_->addItem(QStringLiteral("DSD-%1").arg(r), r);
     taps_ = makeSpin(box, 0, 524288, 16, 8192);
-    grid->addWidget(new QLabel(tr("DSD 采样率:"), box), 0, 0);
+    grid->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "DSD 采样率:"), box), 0, 0);
     grid->addWidget(rate_, 0, 1);
-    grid->addWidget(new QLabel(tr("Taps 数 (0=引擎默认):"), box), 0, 2);
+    grid->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "Taps 数 (0=引擎默认):"), box), 0, 2);
     grid->addWidget(taps_, 0, 3);
 
     auto* row = new QHBoxLayout;
@@ -71,12 +74,12 @@ QWidget* BasicPage::buildRateAndModulator()
         row->addWidget(radio);
     }
     modulator_->button(SosEf)->setChecked(true);
-    modulator_->button(SosEf)->setToolTip(
-        tr("SOS cascade + error feedback, NS15 profile (引擎默认): 实测带内噪声比单环 NS9 低 11.4 dB"));
-    poly_ = new QCheckBox(tr("Chebyshev 多项式压缩 (可与 MASH 叠加)"), box);
+    modulator_->button(SosEf)->setToolTip(QCoreApplication::translate(
+        "MainWindow", "SOS cascade + error feedback, NS15 profile (引擎默认): 实测带内噪声比单环 NS9 低 11.4 dB"));
+    poly_ = new QCheckBox(QCoreApplication::translate("MainWindow", "Chebyshev 多项式压缩 (可与 MASH 叠加)"), box);
     row->addWidget(poly_);
     row->addStretch(1);
-    grid->addWidget(new QLabel(tr("调制器:"), box), 1, 0);
+    grid->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "调制器:"), box), 1, 0);
     grid->addLayout(row, 1, 1, 1, 4);
     grid->setColumnStretch(4, 1);
     return box;
@@ -87,7 +90,7 @@ QWidget* BasicPage::buildMasterRow()
     auto* box = new QWidget(this);
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(new QLabel(tr("母带预设:"), box));
+    row->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "母带预设:"), box));
     for (const MasterPreset& preset : masterPresets()) {
         auto* button = new QPushButton(preset.name, box);
         button->setToolTip(preset.tooltip);
@@ -103,35 +106,40 @@ QWidget* BasicPage::buildSwitches()
     auto* box = new QWidget(this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
-    dst_ = new QCheckBox(tr("DST 压缩 (仅 .dff 输出)"), box);
-    dxd_ = new QCheckBox(tr("DXD 输出 (高解析 PCM)"), box);
-    reverse_ = new QCheckBox(tr("逆向模式 (PDM2PCM)"), box);
-    reverse_->setToolTip(tr("输入 DSD(DSF/DFF), 输出 PCM/WAV —— 与 PCM→PDM 无关"));
+    dst_ = new QCheckBox(QCoreApplication::translate("MainWindow", "DST 压缩 (仅 .dff 输出)"), box);
+    dxd_ = new QCheckBox(QCoreApplication::translate("MainWindow", "DXD 输出 (高解析 PCM)"), box);
+    reverse_ = new QCheckBox(QCoreApplication::translate("MainWindow", "逆向模式 (PDM2PCM)"), box);
+    reverse_->setToolTip(
+        QCoreApplication::translate("MainWindow", "输入 DSD(DSF/DFF), 输出 PCM/WAV —— 与 PCM→PDM 无关"));
     dstLevel_ = makeSpin(box, 0, 9, 1, 0);
     dstLevel_->setEnabled(false);
     auto* dstRow = new QHBoxLayout;
-    dstRow->addWidget(new QLabel(tr("DST 压缩等级 (0=关闭):"), box));
+    dstRow->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "DST 压缩等级 (0=关闭):"), box));
     dstRow->addWidget(dstLevel_);
     dstRow->addStretch(1);
 
-    highBandwidth_ = new QCheckBox(tr("高带宽模式"), box);
-    openCl_ = new QCheckBox(tr("OpenCL 加速 (GPU)"), box);
+    highBandwidth_ = new QCheckBox(QCoreApplication::translate("MainWindow", "高带宽模式"), box);
+    openCl_ = new QCheckBox(QCoreApplication::translate("MainWindow", "OpenCL 加速 (GPU)"), box);
     openCl_->setEnabled(false);
-    openCl_->setToolTip(tr("当前引擎构建未编译 OpenCL 支持"));
-    pdfReport_ = new QCheckBox(tr("添加 PDF 报告"), box);
+    openCl_->setToolTip(QCoreApplication::translate("MainWindow", "当前引擎构建未编译 OpenCL 支持"));
+    pdfReport_ = new QCheckBox(QCoreApplication::translate("MainWindow", "添加 PDF 报告"), box);
     pdfReport_->setChecked(true);
     pdfReport_->setEnabled(false);
-    pdfReport_->setToolTip(tr("当前引擎构建未编译 PDF 报告 (需要 rsvg+cairo)"));
-    report_ = new QCheckBox(tr("分析报告 (--report)"), box);
-    noiseProfiling_ = new QCheckBox(tr("噪声本底分析 (需 PDF 报告)"), box);
+    pdfReport_->setToolTip(QCoreApplication::translate("MainWindow", "当前引擎构建未编译 PDF 报告 (需要 rsvg+cairo)"));
+    report_ = new QCheckBox(QCoreApplication::translate("MainWindow", "分析报告 (--report)"), box);
+    noiseProfiling_ = new QCheckBox(QCoreApplication::translate("MainWindow", "噪声本底分析 (需 PDF 报告)"), box);
 
     denoise_ = new QComboBox(box);
-    denoise_->addItems({tr("降噪: 关"), tr("降噪: 轻 (-12dB 地板, 最保真)"), tr("降噪: 标准 (-18dB 地板)"),
-                        tr("降噪: 强 (感知加权地板, 最深)")});
-    keepHarmonics_ = new QCheckBox(tr("保留乐器泛音 (降噪时保住泛音与泛音列)"), box);
-    reportPeak_ = new QCheckBox(tr("报告里加峰值 (--peak)"), box);
-    reportRms_ = new QCheckBox(tr("报告里加 RMS (--rms)"), box);
-    reportNoDr_ = new QCheckBox(tr("报告里不要动态范围一节 (--no-dynamic-range)"), box);
+    denoise_->addItems({QCoreApplication::translate("MainWindow", "降噪: 关"),
+                        QCoreApplication::translate("MainWindow", "降噪: 轻 (-12dB 地板, 最保真)"),
+                        QCoreApplication::translate("MainWindow", "降噪: 标准 (-18dB 地板)"),
+                        QCoreApplication::translate("MainWindow", "降噪: 强 (感知加权地板, 最深)")});
+    keepHarmonics_ =
+        new QCheckBox(QCoreApplication::translate("MainWindow", "保留乐器泛音 (降噪时保住泛音与泛音列)"), box);
+    reportPeak_ = new QCheckBox(QCoreApplication::translate("MainWindow", "报告里加峰值 (--peak)"), box);
+    reportRms_ = new QCheckBox(QCoreApplication::translate("MainWindow", "报告里加 RMS (--rms)"), box);
+    reportNoDr_ =
+        new QCheckBox(QCoreApplication::translate("MainWindow", "报告里不要动态范围一节 (--no-dynamic-range)"), box);
 
     // Three groups side by side, read left to right in the page's order.
     const auto group = [box](const QString& title, std::initializer_list<QObject*> items) {
@@ -146,9 +154,13 @@ QWidget* BasicPage::buildSwitches()
         column->addStretch(1);
         return g;
     };
-    grid->addWidget(group(tr("输出模式"), {dst_, dxd_, reverse_, dstRow}), 0, 0);
-    grid->addWidget(group(tr("带宽、加速与报告"), {highBandwidth_, openCl_, pdfReport_, report_, noiseProfiling_}), 0, 1);
-    grid->addWidget(group(tr("降噪与报告内容"), {denoise_, keepHarmonics_, reportPeak_, reportRms_, reportNoDr_}), 0, 2);
+    grid->addWidget(group(QCoreApplication::translate("MainWindow", "输出模式"), {dst_, dxd_, reverse_, dstRow}), 0, 0);
+    grid->addWidget(group(QCoreApplication::translate("MainWindow", "带宽、加速与报告"),
+                          {highBandwidth_, openCl_, pdfReport_, report_, noiseProfiling_}),
+                    0, 1);
+    grid->addWidget(group(QCoreApplication::translate("MainWindow", "降噪与报告内容"),
+                          {denoise_, keepHarmonics_, reportPeak_, reportRms_, reportNoDr_}),
+                    0, 2);
     for (int c = 0; c < 3; ++c)
         grid->setColumnStretch(c, 1);
 
@@ -163,9 +175,10 @@ void BasicPage::onNoiseProfilingClicked(bool on)
     if (!on || pdfReport_->isChecked())
         return;
     noiseProfiling_->setChecked(false);
-    auto* box = new QMessageBox(QMessageBox::Warning, tr("噪声本底分析"),
-                                tr("噪声本底分析需要勾选 PDF 报告才能生效\n请启用「添加 PDF 报告」"),
-                                QMessageBox::Ok, this);
+    auto* box = new QMessageBox(
+        QMessageBox::Warning, QCoreApplication::translate("MainWindow", "噪声本底分析"),
+        QCoreApplication::translate("MainWindow", "噪声本底分析需要勾选 PDF 报告才能生效\n请启用「添加 PDF 报告」"),
+        QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

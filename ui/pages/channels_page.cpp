@@ -1,5 +1,6 @@
 #include "channels_page.h"
 
+#include <QCoreApplication>
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -10,20 +11,19 @@
 
 #include "page_widgets.h"
 
-ChannelsPage::ChannelsPage(QWidget* parent)
-    : QWidget(parent)
+ChannelsPage::ChannelsPage(QWidget* parent) : QWidget(parent)
 {
     auto* page = new QHBoxLayout(this);
-    auto* settings = new QGroupBox(tr("声道设置"), this);
+    auto* settings = new QGroupBox(QCoreApplication::translate("MainWindow", "声道设置"), this);
     auto* layout = new QVBoxLayout(settings);
-    force_ = new QCheckBox(tr("强制原始声道数"), settings);
+    force_ = new QCheckBox(QCoreApplication::translate("MainWindow", "强制原始声道数"), settings);
     reset_ = makeSpin(this, 0, 8, 1, 0);
-    quad_ = new QCheckBox(tr("四声道模式 (需重置声道数=4)"), settings);
-    unsrs_ = new QCheckBox(tr("添加环绕声道"), settings);
-    swap_ = new QCheckBox(tr("声道交换"), settings);
+    quad_ = new QCheckBox(QCoreApplication::translate("MainWindow", "四声道模式 (需重置声道数=4)"), settings);
+    unsrs_ = new QCheckBox(QCoreApplication::translate("MainWindow", "添加环绕声道"), settings);
+    swap_ = new QCheckBox(QCoreApplication::translate("MainWindow", "声道交换"), settings);
 
     auto* resetRow = new QHBoxLayout;
-    resetRow->addWidget(new QLabel(tr("重置声道数 (0=不动):"), settings));
+    resetRow->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "重置声道数 (0=不动):"), settings));
     resetRow->addWidget(reset_);
     resetRow->addStretch(1);
     layout->addWidget(force_);
@@ -33,11 +33,13 @@ ChannelsPage::ChannelsPage(QWidget* parent)
     layout->addWidget(swap_);
     layout->addStretch(1);
 
-    auto* notes = new QGroupBox(tr("规则"), this);
+    auto* notes = new QGroupBox(QCoreApplication::translate("MainWindow", "规则"), this);
     auto* notesLayout = new QVBoxLayout(notes);
-    auto* text = new QLabel(tr("「强制原始声道数」优先: 勾选后重置声道数、四声道模式和添加环绕声道都不发给引擎。\n\n"
-                               "四声道模式需要重置声道数为 4; 勾选时会自动设为 4。\n\n"
-                               "「声道交换」交换前两个声道, 与其它选项可同时使用。"),
+    auto* text = new QLabel(QCoreApplication::translate(
+                                "MainWindow",
+                                "「强制原始声道数」优先: 勾选后重置声道数、四声道模式和添加环绕声道都不发给引擎。\n\n"
+                                "四声道模式需要重置声道数为 4; 勾选时会自动设为 4。\n\n"
+                                "「声道交换」交换前两个声道, 与其它选项可同时使用。"),
                             notes);
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
@@ -49,7 +51,7 @@ ChannelsPage::ChannelsPage(QWidget* parent)
     connect(quad_, &QCheckBox::clicked, this, [this](bool on) {
         if (on && reset_->value() != 4) {
             reset_->setValue(4);
-            emit logLine(tr("四声道模式: 重置声道数已自动设为 4"));
+            emit logLine(QCoreApplication::translate("MainWindow", "四声道模式: 重置声道数已自动设为 4"));
         }
     });
 }

@@ -1,5 +1,6 @@
 #include "equalizer_page.h"
 
+#include <QCoreApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -38,16 +39,15 @@ double cellNumber(const QTableWidgetItem* item)
 
 } // namespace
 
-EqualizerPage::EqualizerPage(QWidget* parent)
-    : QWidget(parent)
+EqualizerPage::EqualizerPage(QWidget* parent) : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);
     auto* top = new QHBoxLayout;
-    enable_ = new QCheckBox(tr("启用均衡器 (EQ)"), this);
+    enable_ = new QCheckBox(QCoreApplication::translate("MainWindow", "启用均衡器 (EQ)"), this);
     enable_->setToolTip(QStringLiteral("--eq 'freq,gain,bw{q|h|k|o|s}'"));
-    add_ = new QPushButton(tr("添加频段"), this);
-    remove_ = new QPushButton(tr("移除选中"), this);
-    clear_ = new QPushButton(tr("清空"), this);
+    add_ = new QPushButton(QCoreApplication::translate("MainWindow", "添加频段"), this);
+    remove_ = new QPushButton(QCoreApplication::translate("MainWindow", "移除选中"), this);
+    clear_ = new QPushButton(QCoreApplication::translate("MainWindow", "清空"), this);
     top->addWidget(enable_);
     top->addStretch(1);
     top->addWidget(add_);
@@ -57,7 +57,10 @@ EqualizerPage::EqualizerPage(QWidget* parent)
 
     auto* body = new QHBoxLayout;
     table_ = new QTableWidget(0, 4, this);
-    table_->setHorizontalHeaderLabels({tr("中心频率 (Hz)"), tr("增益 (dB)"), tr("带宽"), tr("单位")});
+    table_->setHorizontalHeaderLabels({QCoreApplication::translate("MainWindow", "中心频率 (Hz)"),
+                                       QCoreApplication::translate("MainWindow", "增益 (dB)"),
+                                       QCoreApplication::translate("MainWindow", "带宽"),
+                                       QCoreApplication::translate("MainWindow", "单位")});
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table_->verticalHeader()->setVisible(false);
     table_->setMinimumHeight(140);
@@ -67,7 +70,9 @@ EqualizerPage::EqualizerPage(QWidget* parent)
     body->addWidget(table_, 2);
     body->addWidget(curve_, 3);
     layout->addLayout(body, 1);
-    auto* note = new QLabel(tr("预览按 44.1 kHz 估算 — 引擎槽位: 首段低架, 满 10 段时末段高架"), this);
+    auto* note = new QLabel(
+        QCoreApplication::translate("MainWindow", "预览按 44.1 kHz 估算 — 引擎槽位: 首段低架, 满 10 段时末段高架"),
+        this);
     note->setStyleSheet(QStringLiteral("color: palette(mid);"));
     layout->addWidget(note);
 
@@ -77,7 +82,8 @@ EqualizerPage::EqualizerPage(QWidget* parent)
         curve_->setEqEnabled(on);
     });
     connect(enable_, &QCheckBox::clicked, this, [this](bool on) {
-        emit logLine(on ? tr("启用均衡器 (--eq 频段 f,g,bw{单位})") : tr("禁用均衡器"));
+        emit logLine(on ? QCoreApplication::translate("MainWindow", "启用均衡器 (--eq 频段 f,g,bw{单位})")
+                        : QCoreApplication::translate("MainWindow", "禁用均衡器"));
     });
     connect(add_, &QPushButton::clicked, this, [this] { addBand(EqBand{1000.0, 0.0, 1.0, 'q'}); });
     connect(remove_, &QPushButton::clicked, this, [this] {

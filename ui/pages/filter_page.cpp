@@ -1,5 +1,6 @@
 #include "filter_page.h"
 
+#include <QCoreApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -15,22 +16,22 @@ const char* const kAlgorithms[] = {"window", "remez", "minphase"};
 enum GainUnit { Linear = 0, Decibel = 1 };
 } // namespace
 
-FilterPage::FilterPage(QWidget* parent)
-    : QWidget(parent)
+FilterPage::FilterPage(QWidget* parent) : QWidget(parent)
 {
     auto* grid = new QGridLayout(this);
 
     auto* top = new QHBoxLayout;
     algorithm_ = new QComboBox(this);
-    algorithm_->addItems({tr("窗口法 (Window Method)"), QStringLiteral("Remez (Parks-McClellan)"),
-                          tr("最小相位 (Min-Phase)")});
+    algorithm_->addItems({QCoreApplication::translate("MainWindow", "窗口法 (Window Method)"),
+                          QStringLiteral("Remez (Parks-McClellan)"),
+                          QCoreApplication::translate("MainWindow", "最小相位 (Min-Phase)")});
     filterType_ = new QComboBox(this);
     filterType_->addItems({QStringLiteral("standard"), QStringLiteral("slow"), QStringLiteral("minphase")});
-    predistortion_ = new QCheckBox(tr("应用预失真处理"), this);
-    top->addWidget(new QLabel(tr("算法:"), this));
+    predistortion_ = new QCheckBox(QCoreApplication::translate("MainWindow", "应用预失真处理"), this);
+    top->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "算法:"), this));
     top->addWidget(algorithm_);
     top->addSpacing(16);
-    top->addWidget(new QLabel(tr("滤波类型:"), this));
+    top->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "滤波类型:"), this));
     top->addWidget(filterType_);
     top->addSpacing(16);
     top->addWidget(predistortion_);
@@ -49,60 +50,60 @@ FilterPage::FilterPage(QWidget* parent)
 
 QWidget* FilterPage::buildWindowGroup()
 {
-    auto* group = new QGroupBox(tr("窗口法参数"), this);
+    auto* group = new QGroupBox(QCoreApplication::translate("MainWindow", "窗口法参数"), this);
     auto* form = new QFormLayout(group);
     windowType_ = new QComboBox(group);
     windowType_->addItems({QStringLiteral("kaiser"), QStringLiteral("blackman"), QStringLiteral("flattop"),
                            QStringLiteral("bartlett"), QStringLiteral("hamming"), QStringLiteral("hanning")});
     beta_ = makeDoubleSpin(group, 0.0, 100.0, 1, 0.5, 6.0);
-    form->addRow(tr("窗口类型:"), windowType_);
+    form->addRow(QCoreApplication::translate("MainWindow", "窗口类型:"), windowType_);
     form->addRow(QStringLiteral("Beta (Kaiser):"), beta_);
     return group;
 }
 
 QWidget* FilterPage::buildRemezGroup()
 {
-    auto* group = new QGroupBox(tr("Remez 算法参数"), this);
+    auto* group = new QGroupBox(QCoreApplication::translate("MainWindow", "Remez 算法参数"), this);
     auto* form = new QFormLayout(group);
     maxIterations_ = makeSpin(group, 1, 1000, 1, 100);
     gridDensity_ = makeSpin(group, 16, 256, 1, 32);
-    form->addRow(tr("最大迭代次数:"), maxIterations_);
-    form->addRow(tr("网格密度:"), gridDensity_);
+    form->addRow(QCoreApplication::translate("MainWindow", "最大迭代次数:"), maxIterations_);
+    form->addRow(QCoreApplication::translate("MainWindow", "网格密度:"), gridDensity_);
     return group;
 }
 
 QWidget* FilterPage::buildStopGroup()
 {
-    auto* group = new QGroupBox(tr("停止带衰减 (A_stop)"), this);
+    auto* group = new QGroupBox(QCoreApplication::translate("MainWindow", "停止带衰减 (A_stop)"), this);
     auto* form = new QFormLayout(group);
     stopgain_ = makeDoubleSpin(group, 0.0, 300.0, 1, 5.0, 0.0);
-    stopgain_->setSpecialValueText(tr("0=不发"));
-    form->addRow(tr("停止带衰减 (dB):"), stopgain_);
+    stopgain_->setSpecialValueText(QCoreApplication::translate("MainWindow", "0=不发"));
+    form->addRow(QCoreApplication::translate("MainWindow", "停止带衰减 (dB):"), stopgain_);
     return group;
 }
 
 QWidget* FilterPage::buildTransitionGroup()
 {
-    auto* group = new QGroupBox(tr("过渡带 (截止频率)"), this);
+    auto* group = new QGroupBox(QCoreApplication::translate("MainWindow", "过渡带 (截止频率)"), this);
     auto* row = new QHBoxLayout(group);
     passband_ = makeSpin(group, 0, 2000000, 100, 0);
     stopband_ = makeSpin(group, 0, 2000000, 100, 0);
-    row->addWidget(new QLabel(tr("通带截止 (Hz):"), group));
+    row->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "通带截止 (Hz):"), group));
     row->addWidget(passband_, 1);
     row->addSpacing(16);
-    row->addWidget(new QLabel(tr("阻带截止 (Hz):"), group));
+    row->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "阻带截止 (Hz):"), group));
     row->addWidget(stopband_, 1);
     return group;
 }
 
 QWidget* FilterPage::buildGainGroup()
 {
-    auto* group = new QGroupBox(tr("增益 (ABS)"), this);
+    auto* group = new QGroupBox(QCoreApplication::translate("MainWindow", "增益 (ABS)"), this);
     auto* row = new QHBoxLayout(group);
     gain_ = makeDoubleSpin(group, 0.0, 20.0, 3, 0.1, 0.0);
     gainUnit_ = new QComboBox(group);
     gainUnit_->addItems({QStringLiteral("x"), QStringLiteral("dB")});
-    row->addWidget(new QLabel(tr("绝对值增益:"), group));
+    row->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "绝对值增益:"), group));
     row->addWidget(gain_, 1);
     row->addWidget(gainUnit_);
     return group;

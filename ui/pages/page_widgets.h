@@ -1,6 +1,8 @@
 #pragma once
 // Small builders shared by the parameter pages, so every spin box states its
 // range, step, decimals and start value in one line where it is made.
+// (The pages translate their texts in the "MainWindow" context, like every
+// other text of the main window, so one translation file section covers it.)
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 #include <QString>

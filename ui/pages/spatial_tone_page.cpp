@@ -1,5 +1,6 @@
 #include "spatial_tone_page.h"
 
+#include <QCoreApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -10,8 +11,7 @@
 
 #include "page_widgets.h"
 
-SpatialTonePage::SpatialTonePage(QWidget* parent)
-    : QWidget(parent)
+SpatialTonePage::SpatialTonePage(QWidget* parent) : QWidget(parent)
 {
     // Three columns: HRTF, surround, then tone with DSRE below it.
     auto* grid = new QGridLayout(this);
@@ -39,9 +39,10 @@ QWidget* SpatialTonePage::buildHrtf()
     auto* column = new QWidget(this);
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    hrtfGroup_ = new QGroupBox(tr("HRTF 空间音频"), column);
-    hrtf_ = switchFor(hrtfGroup_, tr("启用 HRTF 空间音频 (--hrtf)"), tr("启用 HRTF 空间音频 (--hrtf <mono|ms|stereo>)"),
-                      tr("禁用 HRTF 空间音频"));
+    hrtfGroup_ = new QGroupBox(QCoreApplication::translate("MainWindow", "HRTF 空间音频"), column);
+    hrtf_ = switchFor(hrtfGroup_, QCoreApplication::translate("MainWindow", "启用 HRTF 空间音频 (--hrtf)"),
+                      QCoreApplication::translate("MainWindow", "启用 HRTF 空间音频 (--hrtf <mono|ms|stereo>)"),
+                      QCoreApplication::translate("MainWindow", "禁用 HRTF 空间音频"));
     auto* form = new QFormLayout(hrtfGroup_);
     hrtfMode_ = new QComboBox(hrtfGroup_);
     hrtfMode_->addItems({QStringLiteral("mono"), QStringLiteral("ms"), QStringLiteral("stereo")});
@@ -49,11 +50,12 @@ QWidget* SpatialTonePage::buildHrtf()
     hrtfMix_ = makeDoubleSpin(hrtfGroup_, 0.0, 1.0, 2, 0.05, 1.0);
     hrtfSide_ = makeDoubleSpin(hrtfGroup_, 0.0, 1.0, 2, 0.05, 1.0);
     hrtfDepth_ = makeDoubleSpin(hrtfGroup_, -1.0, 1.0, 2, 0.1, 1.0);
-    form->addRow(tr("模式:"), hrtfMode_);
-    form->addRow(tr("干湿比 (dry/wet):"), hrtfMix_);
-    form->addRow(tr("侧向扩散比:"), hrtfSide_);
-    form->addRow(tr("深度 (+1前 / 0耳位 / -1后):"), hrtfDepth_);
-    auto* note = new QLabel(tr("使用引擎内置 HRIR; 不提供自定义 .sofa 文件"), hrtfGroup_);
+    form->addRow(QCoreApplication::translate("MainWindow", "模式:"), hrtfMode_);
+    form->addRow(QCoreApplication::translate("MainWindow", "干湿比 (dry/wet):"), hrtfMix_);
+    form->addRow(QCoreApplication::translate("MainWindow", "侧向扩散比:"), hrtfSide_);
+    form->addRow(QCoreApplication::translate("MainWindow", "深度 (+1前 / 0耳位 / -1后):"), hrtfDepth_);
+    auto* note =
+        new QLabel(QCoreApplication::translate("MainWindow", "使用引擎内置 HRIR; 不提供自定义 .sofa 文件"), hrtfGroup_);
     note->setWordWrap(true);
     note->setStyleSheet(QStringLiteral("color: palette(mid);"));
     form->addRow(note);
@@ -67,19 +69,20 @@ QWidget* SpatialTonePage::buildSurround()
     auto* column = new QWidget(this);
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    surroundGroup_ = new QGroupBox(tr("环绕"), column);
-    surround_ = switchFor(surroundGroup_, tr("启用环绕 (--surround)"),
-                          tr("启用环绕 (--surround delayMs mix side balance)"), tr("禁用环绕"));
+    surroundGroup_ = new QGroupBox(QCoreApplication::translate("MainWindow", "环绕"), column);
+    surround_ = switchFor(surroundGroup_, QCoreApplication::translate("MainWindow", "启用环绕 (--surround)"),
+                          QCoreApplication::translate("MainWindow", "启用环绕 (--surround delayMs mix side balance)"),
+                          QCoreApplication::translate("MainWindow", "禁用环绕"));
     auto* form = new QFormLayout(surroundGroup_);
     surroundDelay_ = makeSpin(surroundGroup_, 0, 500, 1, 15);
     surroundMix_ = makeSpin(surroundGroup_, 0, 100, 1, 80);
-    surroundSide_ = new QCheckBox(tr("侧向 (side)"), surroundGroup_);
+    surroundSide_ = new QCheckBox(QCoreApplication::translate("MainWindow", "侧向 (side)"), surroundGroup_);
     surroundSide_->setChecked(true);
     surroundBalance_ = makeSpin(surroundGroup_, -100, 100, 1, 0);
-    form->addRow(tr("延迟 (ms):"), surroundDelay_);
-    form->addRow(tr("混合 (%):"), surroundMix_);
+    form->addRow(QCoreApplication::translate("MainWindow", "延迟 (ms):"), surroundDelay_);
+    form->addRow(QCoreApplication::translate("MainWindow", "混合 (%):"), surroundMix_);
     form->addRow(surroundSide_);
-    form->addRow(tr("平衡 (-100~100, 0=不发):"), surroundBalance_);
+    form->addRow(QCoreApplication::translate("MainWindow", "平衡 (-100~100, 0=不发):"), surroundBalance_);
     layout->addWidget(surround_);
     layout->addWidget(surroundGroup_, 1);
     return column;
@@ -87,14 +90,14 @@ QWidget* SpatialTonePage::buildSurround()
 
 QWidget* SpatialTonePage::buildTone()
 {
-    auto* group = new QGroupBox(tr("音调 (shelving)"), this);
+    auto* group = new QGroupBox(QCoreApplication::translate("MainWindow", "音调 (shelving)"), this);
     auto* form = new QFormLayout(group);
     bass_ = makeDoubleSpin(group, -24.0, 24.0, 1, 0.5, 0.0);
     treble_ = makeDoubleSpin(group, -24.0, 24.0, 1, 0.5, 0.0);
     precut_ = makeDoubleSpin(group, -24.0, 0.0, 1, 0.5, 0.0);
-    form->addRow(tr("低音 (dB):"), bass_);
-    form->addRow(tr("高音 (dB):"), treble_);
-    form->addRow(tr("EQ 前置衰减 (dB):"), precut_);
+    form->addRow(QCoreApplication::translate("MainWindow", "低音 (dB):"), bass_);
+    form->addRow(QCoreApplication::translate("MainWindow", "高音 (dB):"), treble_);
+    form->addRow(QCoreApplication::translate("MainWindow", "EQ 前置衰减 (dB):"), precut_);
     connect(precut_, &QDoubleSpinBox::valueChanged, this, &SpatialTonePage::precutChanged);
     return group;
 }
@@ -105,11 +108,12 @@ QWidget* SpatialTonePage::buildDsre()
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     dsreGroup_ = new QGroupBox(QStringLiteral("DSRE"), column);
-    dsre_ = switchFor(dsreGroup_, tr("启用 DSRE 数字频谱共振增强 (--dsre)"), tr("启用 DSRE (--dsre mix)"),
-                      tr("禁用 DSRE"));
+    dsre_ = switchFor(dsreGroup_, QCoreApplication::translate("MainWindow", "启用 DSRE 数字频谱共振增强 (--dsre)"),
+                      QCoreApplication::translate("MainWindow", "启用 DSRE (--dsre mix)"),
+                      QCoreApplication::translate("MainWindow", "禁用 DSRE"));
     auto* form = new QFormLayout(dsreGroup_);
     dsreMix_ = makeDoubleSpin(dsreGroup_, 0.0, 1.0, 2, 0.05, 0.35);
-    form->addRow(tr("干湿比 (0=dry, 1=全效果):"), dsreMix_);
+    form->addRow(QCoreApplication::translate("MainWindow", "干湿比 (0=dry, 1=全效果):"), dsreMix_);
     layout->addWidget(dsre_);
     layout->addWidget(dsreGroup_, 1);
     return column;

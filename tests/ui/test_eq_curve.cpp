@@ -72,6 +72,10 @@ private slots:
         QTest::newRow("very wide") << 1000.0 << 5.0 << 0.05 << QChar('q');
         QTest::newRow("near Nyquist") << 20500.0 << 6.0 << 2.0 << QChar('q');
         QTest::newRow("zero gain") << 1000.0 << 0.0 << 3.0 << QChar('q');
+        QTest::newRow("zero gain, slope") << 1000.0 << 0.0 << 1.0 << QChar('s');
+        QTest::newRow("octaves near Nyquist") << 18000.0 << -5.0 << 1.0 << QChar('o');
+        QTest::newRow("slope near Nyquist") << 19000.0 << 6.0 << 1.0 << QChar('s');
+        QTest::newRow("Hz near Nyquist") << 21000.0 << 3.0 << 1000.0 << QChar('h');
     }
     void bandsMatchTheClosedForm()
     {
@@ -96,6 +100,16 @@ private slots:
                     QVERIFY(std::abs(got) < 1e-9);
             }
         }
+    }
+
+    // A centre above 0.49 fs is designed at 0.49 fs, so a band set for a
+    // higher input rate still gives a stable filter at the preview rate.
+    void centreAboveTheLimitIsClamped()
+    {
+        const QList<EqBand> bands = {{30000, 6, 2, 'q'}};
+        const EqBand atLimit{0.49 * kFs, 6, 2, 'q'};
+        for (double hz : {1000.0, 15000.0, 21000.0})
+            QVERIFY(std::abs(eqBandDb(bands, 0, hz) - expectedDb(atLimit, 0, hz)) < 1e-6);
     }
 
     void curveSumsBandsAndPrecut()

@@ -3,6 +3,10 @@
 #include <QProcess>
 #include <QSet>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 QStringList parseRefusedOptions(const QByteArray& listing)
 {
     QStringList refused;
@@ -51,6 +55,11 @@ void EngineCapabilityProbe::start(const QString& enginePath)
     connect(process_, &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
         finish(status == QProcess::NormalExit ? code : -1);
     });
+#ifdef Q_OS_WIN
+    // A console program: without this the query flashes a console window.
+    process_->setCreateProcessArgumentsModifier(
+        [](QProcess::CreateProcessArguments* args) { args->flags |= CREATE_NO_WINDOW; });
+#endif
     process_->start(enginePath, {QStringLiteral("--capabilities")});
 }
 

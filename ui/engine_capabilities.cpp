@@ -20,9 +20,21 @@ QStringList parseRefusedOptions(const QByteArray& listing)
 
 QStringList refusedOptionsIn(const QStringList& args, const QStringList& refused)
 {
+    // Free texts a user types (tags, paths) are values, never options, even
+    // when one happens to read like an option.
+    static const QSet<QString> textValued = {
+        QStringLiteral("-i"),     QStringLiteral("--artist"),  QStringLiteral("--title"),
+        QStringLiteral("--album"), QStringLiteral("--genre"),  QStringLiteral("--year"),
+        QStringLiteral("--comment"), QStringLiteral("--log-file"),
+    };
     const QSet<QString> set(refused.begin(), refused.end());
     QStringList found;
-    for (const QString& a : args) {
+    for (int i = 0; i < args.size(); ++i) {
+        const QString& a = args[i];
+        if (textValued.contains(a)) {
+            ++i;
+            continue;
+        }
         if (a.startsWith(QLatin1Char('-')) && set.contains(a) && !found.contains(a))
             found.append(a);
     }

@@ -10,7 +10,8 @@ class QProcess;
 // The refused option names of a "--capabilities" listing; other lines are ignored.
 QStringList parseRefusedOptions(const QByteArray& listing);
 
-// The options of `args` that the engine refuses, each once, in argument order.
+// The options of `args` that the engine refuses, each once, in argument order;
+// the values of the tag, input and log options are never taken for options.
 QStringList refusedOptionsIn(const QStringList& args, const QStringList& refused);
 
 class EngineCapabilityProbe : public QObject {

@@ -311,6 +311,8 @@ private slots:
         QCOMPARE(parseRefusedOptions("refused --a\nother line\nrefused  --b \n"), (QStringList{"--a", "--b"}));
         QCOMPARE(refusedOptionsIn({"-i", "x", "--eq", "--bass", "-3.000000", "--eq"}, {"--eq", "--bass", "-3.000000x"}),
                  (QStringList{"--eq", "--bass"}));
+        QCOMPARE(refusedOptionsIn({"-i", "--eq", "--artist", "--dst", "--title", "", "--dst", "out.dsf"}, {"--eq", "--dst"}),
+                 (QStringList{"--dst"}));
     }
 
     // At the smallest size the window allows, no two widgets of one layout

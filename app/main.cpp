@@ -9,6 +9,8 @@
 #include "console_attach.h"
 #include "engine_main.h"
 #include "mainwindow.h"
+#include "pages/basic_page.h"
+#include "parameter_tabs.h"
 #include "quit_on_signal.h"
 #include "screenshot.h"
 #include "startup_env.h"
@@ -52,11 +54,29 @@ int main(int argc, char** argv)
         window->runAutorun(qEnvironmentVariable("ZUVO_AI_AUTORUN"), qEnvironmentVariableIsSet("ZUVO_AI_AUTOCLOSE"));
     window->show();
 
+    // Demonstrations run before the screenshot so that a shot shows them.
+    if (qEnvironmentVariableIsSet("ZUVO_GUI_EQDEMO"))
+        window->showEqDemo();
+    else if (qEnvironmentVariableIsSet("ZUVO_GUI_PLAYDEMO"))
+        window->parameterTabs()->setCurrentIndex(4);
+    if (qEnvironmentVariableIsSet("ZUVO_GUI_TAB"))
+        window->parameterTabs()->setCurrentIndex(environmentInt("ZUVO_GUI_TAB"));
+
     const QString shotPath = qEnvironmentVariable("ZUVO_GUI_SHOT");
     if (!shotPath.isEmpty())
         saveWindowScreenshot(window.get(), shotPath);
 
     window->runPreviewHook();
+    if (qEnvironmentVariableIsSet("ZUVO_GUI_DUMP_MOD")) {
+        for (const QString& option : BasicPage::modulatorOptions()) {
+            std::fputs(option.toUtf8().constData(), stdout);
+            std::fputc('\n', stdout);
+            std::fflush(stdout);
+        }
+        window.reset();
+        app.reset();
+        return 0;
+    }
 
     const int code = QApplication::exec();
     window.reset();

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/capabilities.h"
 #include "cli/help.h"
 #include "cli/options.h"
 #include "control/control_channel.h"
@@ -75,6 +76,11 @@ int run(std::vector<std::string> args)
     }
     if (o.showHelp) {
         zuvo::cli::printHelp(stdout, ZUVO_VERSION);
+        std::fflush(stdout);
+        return zuvo::kExitOk;
+    }
+    if (o.showCapabilities) {
+        zuvo::cli::printCapabilities(stdout);
         std::fflush(stdout);
         return zuvo::kExitOk;
     }

@@ -40,8 +40,10 @@ InputOutputPanel::InputOutputPanel(QWidget* parent)
     fileList_->setMinimumHeight(110);
     fileList_->setDropHandler([this](const QStringList& paths) { emit pathsOffered(paths); });
     layout->addWidget(fileList_, 1);
-    layout->addWidget(buildOutputRows());
-    layout->addWidget(buildTagRows());
+    outputRows_ = buildOutputRows();
+    tagRows_ = buildTagRows();
+    layout->addWidget(outputRows_);
+    layout->addWidget(tagRows_);
     updateCount();
 
     connect(addFiles, &QPushButton::clicked, this, &InputOutputPanel::chooseInputFiles);
@@ -57,21 +59,14 @@ QWidget* InputOutputPanel::buildOutputRows()
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
 
+    // Two rows: where a single output goes, and where a batch goes.
     outputFile_ = new QLineEdit(box);
     outputFile_->setPlaceholderText(tr("输出 .dsf / .dff 文件"));
     auto* browseFile = new QPushButton(tr("浏览…"), box);
-    grid->addWidget(new QLabel(tr("输出文件:"), box), 0, 0);
-    grid->addWidget(outputFile_, 0, 1, 1, 3);
-    grid->addWidget(browseFile, 0, 4);
-
     outputDir_ = new QLineEdit(box);
     outputDir_->setPlaceholderText(tr("留空 = 用上面的输出文件; 填了就按命名模板给每个输入算输出文件名"));
     outputDir_->setToolTip(tr("批量输出: 所有输入写进这个目录, 文件名由下面的命名模板算"));
     auto* browseDir = new QPushButton(tr("浏览目录…"), box);
-    grid->addWidget(new QLabel(tr("输出目录:"), box), 1, 0);
-    grid->addWidget(outputDir_, 1, 1, 1, 3);
-    grid->addWidget(browseDir, 1, 4);
-
     format_ = new QComboBox(box);
     format_->addItems({QStringLiteral("dsf"), QStringLiteral("dff"), QStringLiteral("wav"),
                        QStringLiteral("w64"), QStringLiteral("flac")});
@@ -81,11 +76,18 @@ QWidget* InputOutputPanel::buildOutputRows()
     nameTemplate_->setToolTip(
         tr("变量: {input} 输入文件名  {ext} 输出格式  {track} / {track:02} 队列序号  {artist} {title} 界面字段\n"
            "留空 = {input}; 变量没有值时回退用输入文件名; 模板里可以带子目录"));
-    grid->addWidget(new QLabel(tr("输出格式:"), box), 2, 0);
-    grid->addWidget(format_, 2, 1);
-    grid->addWidget(new QLabel(tr("命名模板:"), box), 2, 2);
-    grid->addWidget(nameTemplate_, 2, 3, 1, 2);
-    grid->setColumnStretch(3, 1);
+    grid->addWidget(new QLabel(tr("输出文件:"), box), 0, 0);
+    grid->addWidget(outputFile_, 0, 1);
+    grid->addWidget(browseFile, 0, 2);
+    grid->addWidget(new QLabel(tr("输出目录:"), box), 1, 0);
+    grid->addWidget(outputDir_, 1, 1);
+    grid->addWidget(browseDir, 1, 2);
+    grid->addWidget(new QLabel(tr("输出格式:"), box), 0, 3);
+    grid->addWidget(format_, 0, 4);
+    grid->addWidget(new QLabel(tr("命名模板:"), box), 1, 3);
+    grid->addWidget(nameTemplate_, 1, 4);
+    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(4, 1);
 
     connect(browseFile, &QPushButton::clicked, this, &InputOutputPanel::chooseOutputFile);
     connect(browseDir, &QPushButton::clicked, this, &InputOutputPanel::chooseOutputFolder);
@@ -131,7 +133,7 @@ QWidget* InputOutputPanel::buildTagRows()
     grid->addLayout(yearTrack, 1, 2, 1, 2);
     grid->addWidget(new QLabel(tr("备注:"), box), 1, 4);
     grid->addWidget(comment_, 1, 5);
-    grid->addWidget(metadataFromInput_, 2, 0, 1, 6);
+    grid->addWidget(metadataFromInput_, 1, 6);
     for (int c : {1, 3, 5})
         grid->setColumnStretch(c, 1);
     return box;
@@ -216,4 +218,49 @@ void InputOutputPanel::chooseOutputFolder()
                                                           QFileDialog::ShowDirsOnly);
     if (!dir.isEmpty())
         outputDir_->setText(dir);
+}
+
+QString InputOutputPanel::outputFile() const
+{
+    return outputFile_->text();
+}
+
+QString InputOutputPanel::outputFolder() const
+{
+    return outputDir_->text();
+}
+
+QString InputOutputPanel::outputFormat() const
+{
+    return format_->currentText();
+}
+
+void InputOutputPanel::setOutputFormat(const QString& format)
+{
+    const int index = format_->findText(format);
+    if (index >= 0)
+        format_->setCurrentIndex(index);
+}
+
+void InputOutputPanel::replaceOutputFile(const QString& path)
+{
+    outputFile_->setText(path);
+}
+
+void InputOutputPanel::applyTags(const ConversionSettings& s)
+{
+    artist_->setText(s.artist);
+    title_->setText(s.title);
+    album_->setText(s.album);
+    genre_->setText(s.genre);
+    year_->setText(s.year);
+    track_->setValue(s.track_number);
+    comment_->setText(s.comment);
+    metadataFromInput_->setChecked(s.metadata_from_input);
+}
+
+void InputOutputPanel::setParametersLocked(bool locked)
+{
+    outputRows_->setEnabled(!locked);
+    tagRows_->setEnabled(!locked);
 }

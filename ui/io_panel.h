@@ -29,6 +29,17 @@ public:
     void setPcmOutputQuery(std::function<bool()> query) { pcmOutput_ = std::move(query); }
     void setOutputFolder(const QString& path);
 
+    QString outputFile() const;
+    QString outputFolder() const;
+    QString outputFormat() const;
+    void setOutputFormat(const QString& format);
+    // Changes the output file's text without leaving folder mode.
+    void replaceOutputFile(const QString& path);
+    // Shows the tag fields of `settings`.
+    void applyTags(const ConversionSettings& settings);
+    // While a queue runs the output and tag fields take no edits.
+    void setParametersLocked(bool locked);
+
 signals:
     // Paths chosen in a dialog or dropped; the window decides whether they join.
     void pathsOffered(const QStringList& paths);
@@ -46,6 +57,9 @@ private:
     void chooseOutputFolder();
     QWidget* buildOutputRows();
     QWidget* buildTagRows();
+
+    QWidget* outputRows_ = nullptr;
+    QWidget* tagRows_ = nullptr;
 
     FileListWidget* fileList_ = nullptr;
     QLabel* countLabel_ = nullptr;

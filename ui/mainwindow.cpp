@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QProgressBar>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -9,12 +10,14 @@
 #include <QWidget>
 
 #include "conversion_queue.h"
+#include "engine_capabilities.h"
 #include "engine_args.h"
 #include "engine_discovery.h"
 #include "engine_log.h"
 #include "file_list_widget.h"
 #include "io_panel.h"
 #include "log_pane.h"
+#include "parameter_tabs.h"
 #include "run_controls.h"
 
 MainWindow::MainWindow(QWidget* parent)
@@ -24,6 +27,7 @@ MainWindow::MainWindow(QWidget* parent)
     resize(1180, 760);
     buildUi();
 
+    capabilities_ = new EngineCapabilityProbe(this);
     setArgNoteSink([this](const char* line) { appendLog(QString::fromUtf8(line)); });
 
     pollTimer_ = new QTimer(this);
@@ -47,15 +51,33 @@ void MainWindow::buildUi()
     auto* layout = new QVBoxLayout(central);
     io_ = new InputOutputPanel(central);
     run_ = new RunControlsPanel(central);
-    layout->addWidget(io_, 0);
-    layout->addWidget(run_, 1);
+    buildPages();
+    // The pages get the room; the file list and the log shrink to a few
+    // lines first (they scroll), and the splitter lets the user trade
+    // between the three, so nothing overlaps in a small window.
+    for (QWidget* w : std::initializer_list<QWidget*>{io_->fileList(), run_->log()}) {
+        w->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        w->setMinimumHeight(64);
+    }
+    tabs_->setMinimumHeight(200);
+    auto* split = new QSplitter(Qt::Vertical, central);
+    split->addWidget(io_);
+    split->addWidget(tabs_);
+    split->addWidget(run_);
+    split->setChildrenCollapsible(false);
+    split->setStretchFactor(0, 0);
+    split->setStretchFactor(1, 1);
+    split->setStretchFactor(2, 0);
+    layout->addWidget(split);
     setCentralWidget(central);
+    // The status bar's permanent widgets (language, updates) join at its right end.
     statusBar();
 
     queue_ = new ConversionQueue(this);
     connect(queue_, &ConversionQueue::logLine, this, &MainWindow::appendLog);
     connect(queue_, &ConversionQueue::progressChanged, run_->progress(), &QProgressBar::setValue);
     connect(queue_, &ConversionQueue::runningChanged, run_, &RunControlsPanel::setRunning);
+    connect(queue_, &ConversionQueue::runningChanged, this, &MainWindow::setParametersLocked);
     connect(queue_, &ConversionQueue::fileStateChanged, this, [this](int index, int state) {
         using S = FileListWidget::State;
         const S shown = state == ConversionQueue::Running ? S::Running
@@ -93,6 +115,8 @@ void MainWindow::locateEngine()
     enginePath_ = findEngine();
     if (!enginePath_.isEmpty()) {
         appendLog(tr("找到 ZuvoEngine (音频转换引擎): %1").arg(enginePath_));
+        // Asked once, after the window is up, so start-up never waits for it.
+        QTimer::singleShot(0, this, [this] { capabilities_->start(enginePath_); });
     } else {
         appendLog(tr("警告: 未找到 ZuvoEngine — 转换功能不可用。请将其放在程序同目录、或加入 PATH。"));
         statusBar()->showMessage(tr("未找到 ZuvoEngine"));

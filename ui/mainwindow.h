@@ -5,8 +5,18 @@
 
 #include "conversion_settings.h"
 
+class AdvancedPage;
+class BasicPage;
+class ChannelsPage;
 class ConversionQueue;
+class EngineCapabilityProbe;
+class EqualizerPage;
+class FilterPage;
 class InputOutputPanel;
+class ParameterTabs;
+class SpatialTonePage;
+struct EqBand;
+struct MasterPreset;
 class QTemporaryDir;
 class QTimer;
 class RunControlsPanel;
@@ -37,12 +47,29 @@ public:
     void previewCurrentFile();
     void openPreview(const QString& path, bool spectrogram = false);
     bool runPreviewHook();
+    // Record to controls (after a preset is loaded) and controls to record
+    // (before a run or a preset save): the only two ways a record moves.
+    void applySettings(const ConversionSettings& settings);
+    ConversionSettings collectSettings();
+    // The controls' part of collectSettings, written over `settings`.
+    void collectInto(ConversionSettings& settings);
+
+    // The parameter pages. Pages of other features join with insertPage
+    // (ParameterTabs), e.g. playback at 5 and recording at 7.
+    ParameterTabs* parameterTabs() const { return tabs_; }
+    // Equaliser demonstration: its page, the switch on, three bands.
+    void showEqDemo();
 
 private:
     void buildUi();
     void locateEngine();
     void onPollTimer();
-    ConversionSettings collectSettings();
+    void buildPages();
+    void setParametersLocked(bool locked);
+    void onDstClicked(bool on);
+    void onMasterPresetRequested(const MasterPreset& preset);
+    // True (and says why) when the chosen options include ones the engine refuses.
+    bool refuseUnsupportedOptions(const ConversionSettings& settings);
     void addPaths(const QStringList& paths);
     bool refuseWhileConverting(const QString& message);
     void showStartProblem(const StartProblem& problem);
@@ -50,6 +77,14 @@ private:
 
     InputOutputPanel* io_ = nullptr;
     RunControlsPanel* run_ = nullptr;
+    ParameterTabs* tabs_ = nullptr;
+    BasicPage* basic_ = nullptr;
+    FilterPage* filter_ = nullptr;
+    EqualizerPage* eq_ = nullptr;
+    SpatialTonePage* spatial_ = nullptr;
+    ChannelsPage* channels_ = nullptr;
+    AdvancedPage* advanced_ = nullptr;
+    EngineCapabilityProbe* capabilities_ = nullptr;
     ConversionQueue* queue_ = nullptr;
     QTimer* pollTimer_ = nullptr;
     ConversionSettings settings_;

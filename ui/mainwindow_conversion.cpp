@@ -20,15 +20,6 @@
 #include "start_checks.h"
 #include "startup_env.h"
 
-ConversionSettings MainWindow::collectSettings()
-{
-    ConversionSettings s = settings_;
-    io_->collectInto(s);
-    s.verbose_log = run_->verbose();
-    s.log_file = ensureEngineLogPath();
-    return s;
-}
-
 void MainWindow::addPaths(const QStringList& paths)
 {
     if (refuseWhileConverting(tr("转换进行中, 不能修改文件列表")))
@@ -56,6 +47,8 @@ void MainWindow::startConversion()
         showStartProblem(*problem);
         return;
     }
+    if (refuseUnsupportedOptions(settings))
+        return;
     for (int row = 0; row < io_->fileList()->count(); ++row)
         io_->fileList()->setState(row, FileListWidget::State::Waiting);
     queue_->start(io_->fileList()->paths(), settings, enginePath_);

@@ -56,7 +56,14 @@ bool RunControlsPanel::verbose() const
     return verbose_->isChecked();
 }
 
+void RunControlsPanel::setVerbose(bool on)
+{
+    verbose_->setChecked(on);
+}
+
 void RunControlsPanel::setRunning(bool running)
 {
     start_->setEnabled(!running);
+    // The switch is a conversion parameter: it stays as the running queue took it.
+    verbose_->setEnabled(!running);
 }

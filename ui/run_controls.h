@@ -16,6 +16,7 @@ public:
     LogPane* log() const { return log_; }
     QProgressBar* progress() const { return progress_; }
     bool verbose() const;
+    void setVerbose(bool on);
     void setRunning(bool running);
 
 signals:

@@ -71,6 +71,7 @@ void printHelp(std::FILE* out, const char* version)
         "  --forcechannels        accepted (the input's channel count is always kept)\n"
         "  -pdfrp                 accepted with a warning: this build makes no PDF report\n"
         "  --version, --help, --list-devices\n"
+        "  --capabilities         one line 'refused OPTION' for each option this build refuses\n"
         "Control: the line 'stop' on standard input (or the host's control queue) ends the run;\n"
         "  the partial output is finalised and stays valid.\n"
         "\n"

@@ -111,6 +111,8 @@ bool Parser::handle(const std::string& a)
         o.showVersion = true;
     } else if (a == "--list-devices") {
         o.listDevices = true;
+    } else if (a == "--capabilities") {
+        o.showCapabilities = true;
     } else if (a == "--track") {
         if (intValue(1, 998, n))
             o.tags.track = static_cast<int>(n);
@@ -278,7 +280,7 @@ bool Parser::handle(const std::string& a)
 void Parser::validate()
 {
     EngineOptions& o = result_.options;
-    if (o.showHelp || o.showVersion || o.listDevices)
+    if (o.showHelp || o.showVersion || o.listDevices || o.showCapabilities)
         return;
     // The output is the last plain argument; earlier ones are inputs.
     if (!positional_.empty()) {

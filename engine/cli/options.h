@@ -20,6 +20,7 @@ struct EngineOptions {
     bool showHelp = false;
     bool showVersion = false;
     bool listDevices = false;
+    bool showCapabilities = false; // --capabilities: list what this build refuses
 
     std::vector<std::string> inputs;
     std::string output;

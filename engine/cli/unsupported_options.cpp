@@ -84,6 +84,14 @@ bool lookupUnsupported(const std::string& name, ValueShape& shape)
     return false;
 }
 
+std::vector<std::string> unsupportedOptionNames()
+{
+    std::vector<std::string> names;
+    for (const Row& r : kRows)
+        names.emplace_back(r.name);
+    return names;
+}
+
 std::size_t valueCount(ValueShape shape, const std::vector<std::string>& args, std::size_t i)
 {
     const std::size_t left = args.size() - i - 1;

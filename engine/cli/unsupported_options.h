@@ -25,6 +25,9 @@ enum class ValueShape {
 // Returns true and the shape when `name` is a known but unimplemented option.
 bool lookupUnsupported(const std::string& name, ValueShape& shape);
 
+// Every known but unimplemented option, in table order.
+std::vector<std::string> unsupportedOptionNames();
+
 // Number of arguments after position `i` that belong to an option of this
 // shape (never more than are left).
 std::size_t valueCount(ValueShape shape, const std::vector<std::string>& args, std::size_t i);

@@ -34,6 +34,7 @@ private slots:
     void badInputs();
     void logFileThatCannotBeOpenedIsAWarning();
     void sevenChannelsNeedDff();
+    void capabilitiesNameEveryRefusedOption();
 
 private:
     QString tone(const QString& name, double seconds = 0.25);
@@ -293,3 +294,29 @@ void EngineUsageTest::sevenChannelsNeedDff()
 
 QTEST_GUILESS_MAIN(EngineUsageTest)
 #include "tst_engine_usage.moc"
+
+// The listing front-ends read: every option in it is refused when used,
+// and options the engine does implement are not in it.
+void EngineUsageTest::capabilitiesNameEveryRefusedOption()
+{
+    const RunResult c = runEngine({"--capabilities"});
+    QCOMPARE(c.exitCode, 0);
+    const QStringList lines = c.out.split('\n', Qt::SkipEmptyParts);
+    QVERIFY(lines.size() > 20);
+    QStringList listed;
+    for (const QString& line : lines) {
+        QVERIFY2(line.startsWith("refused --"), qPrintable(line));
+        listed << line.mid(8);
+    }
+    for (const char* implemented : {"--sos-ef", "--order", "--cifb", "--oversampling", "--swap-channels", "--report",
+                                    "-pdfrp", "--abs", "--window-type"})
+        QVERIFY2(!listed.contains(implemented), implemented);
+    const QString in = tone("caps.wav");
+    for (const QString& option : listed) {
+        const QString out = dir_.filePath("caps.dsf");
+        const RunResult r = runEngine({"-i", in, option, out});
+        QVERIFY2(r.exitCode == 2, qPrintable(option + ": " + r.err));
+        QVERIFY2(r.err.contains(option.mid(2), Qt::CaseInsensitive), qPrintable(option + ": " + r.err));
+        QVERIFY2(!QFile::exists(out), qPrintable(option));
+    }
+}

@@ -99,6 +99,18 @@ std::string optionValue(const std::vector<std::string>& args, const std::string&
 int fake_engine_run(int argc, char** argv)
 {
     std::vector<std::string> args(argv, argv + argc);
+    // The window's capability query is not a run: answer it from
+    // ZUVO_FAKE_REFUSED (comma-separated options) and record nothing.
+    if (args.size() == 2 && args[1] == "--capabilities") {
+        const char* refused = std::getenv("ZUVO_FAKE_REFUSED");
+        std::istringstream list(refused ? refused : "");
+        std::string option;
+        while (std::getline(list, option, ','))
+            if (!option.empty())
+                std::printf("refused %s\n", option.c_str());
+        std::fflush(stdout);
+        return 0;
+    }
     const int run = recordArguments(args);
     const zuvo::InprocHostOptions host = zuvo::takeInprocHostOptions(args);
     zuvo::ControlListener control(host);

@@ -166,9 +166,12 @@ private slots:
         const QList<QStringList> runs = h.recordedRuns();
         QCOMPARE(runs.size(), 3);
         const QString a = h.dir.filePath("a.wav");
+        // What the window's controls hold when it opens: DSD-64, 8192 taps,
+        // the Kaiser window with beta 6, SOS-EF.
         QCOMPARE(withoutHostOptions(runs[0]).mid(1),
-                 (QStringList{"-i", a, "--gui", "--log-file", h.engineLog, "--order", "9", "--unpredistortion",
-                              "-pdfrp", h.outDir + "/a.dsf"}));
+                 (QStringList{"-i", a, "--gui", "--log-file", h.engineLog, "--oversampling", "64", "--taps", "8192",
+                              "--window-type", "kaiser", "--beta", "6.000000", "--unpredistortion", "-pdfrp",
+                              "--sos-ef", h.outDir + "/a.dsf"}));
         QCOMPARE(withoutHostOptions(runs[2]).last(), h.outDir + "/c.dsf");
         QCOMPARE(runs[0].contains("-inproc-host"), inProcess);
         QVERIFY(log.contains("[log] 执行: " + QString(FAKE_ENGINE_PATH) + " -i " + a + " --gui"));

@@ -48,7 +48,8 @@ void FileListWidget::appendPaths(const QStringList& paths)
     for (const QString& p : paths) {
         paths_ << p;
         states_ << State::Waiting;
-        addItem(p);
+        addItem(QString());
+        refreshText(count() - 1);
     }
 }
 
@@ -80,10 +81,23 @@ void FileListWidget::setState(int row, State state)
     refreshText(row);
 }
 
+void FileListWidget::setPresetNames(const QHash<QString, QString>& presetNameByPath)
+{
+    presetNames_ = presetNameByPath;
+    for (int row = 0; row < count(); ++row)
+        refreshText(row);
+}
+
 void FileListWidget::refreshText(int row)
 {
-    if (QListWidgetItem* it = item(row))
-        it->setText(marker(states_[row]) + paths_[row]);
+    QListWidgetItem* it = item(row);
+    if (!it)
+        return;
+    QString text = marker(states_[row]) + paths_[row];
+    const QString preset = presetNames_.value(paths_[row]);
+    if (!preset.isEmpty())
+        text += tr("  ◇ 预设: %1").arg(preset);
+    it->setText(text);
 }
 
 void FileListWidget::dragEnterEvent(QDragEnterEvent* event)

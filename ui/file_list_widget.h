@@ -1,4 +1,5 @@
 #pragma once
+#include <QHash>
 #include <QListWidget>
 #include <functional>
 
@@ -19,6 +20,9 @@ public:
     void removeSelected();
     void clearAll();
     void setState(int row, State state);
+    // Names of the presets assigned to queued paths; rows show them as a
+    // suffix. Replaces the previous assignment.
+    void setPresetNames(const QHash<QString, QString>& presetNameByPath);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -30,5 +34,6 @@ private:
 
     QStringList paths_;
     QList<State> states_;
+    QHash<QString, QString> presetNames_;
     std::function<void(const QStringList&)> onDrop_;
 };

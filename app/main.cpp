@@ -1,6 +1,9 @@
 #include <QApplication>
 #include <QCoreApplication>
+#include <QComboBox>
 #include <QIcon>
+#include <QLabel>
+#include <QStatusBar>
 #include <QPixmap>
 #include <QTimer>
 #include <cstdio>
@@ -8,11 +11,13 @@
 
 #include "console_attach.h"
 #include "engine_main.h"
+#include "language_selector.h"
 #include "mainwindow.h"
 #include "pages/basic_page.h"
 #include "parameter_tabs.h"
 #include "quit_on_signal.h"
 #include "screenshot.h"
+#include "smoke_report.h"
 #include "startup_env.h"
 
 namespace {
@@ -47,8 +52,11 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("ZUVO"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/zuvo.png")));
     quitEventLoopOnTerminationSignals();
+    const QString languageTag = installTranslator(app.get());
 
     auto window = std::make_unique<MainWindow>();
+    window->statusBar()->addPermanentWidget(new QLabel(QCoreApplication::translate("UiLangRow", "语言"), window.get()));
+    window->statusBar()->addPermanentWidget(makeLanguageSelector(window.get()));
     window->ensureEngineLogPath();
     if (qEnvironmentVariableIsSet("ZUVO_AI_AUTORUN"))
         window->runAutorun(qEnvironmentVariable("ZUVO_AI_AUTORUN"), qEnvironmentVariableIsSet("ZUVO_AI_AUTOCLOSE"));
@@ -76,6 +84,11 @@ int main(int argc, char** argv)
         window.reset();
         app.reset();
         return 0;
+    }
+    if (qEnvironmentVariableIsSet("ZUVO_GUI_SMOKE")) {
+        std::printf("%s\n", languageSmokeLine(languageTag).toUtf8().constData());
+        std::fflush(stdout);
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
     }
 
     const int code = QApplication::exec();

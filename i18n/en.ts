@@ -5,536 +5,1275 @@
     <name>ConversionQueue</name>
     <message>
         <source>引擎日志: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Engine log: %1</translation>
     </message>
     <message>
         <source>(交给引擎默认)</source>
-        <translation type="unfinished"></translation>
+        <translation>(engine default)</translation>
     </message>
     <message>
         <source>待转换文件: %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>Files to convert: %1</translation>
     </message>
     <message>
         <source>输出目录: %1 (命名模板: %2, 格式: %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Output folder: %1 (naming template: %2, format: %3)</translation>
     </message>
     <message>
         <source>✗ 逐轨预设无法解析, 本文件改用当前参数: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Per-track preset could not be parsed; using current parameters for this file: %1 (%2)</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot read file</translation>
     </message>
     <message>
         <source>不是 JSON 对象</source>
-        <translation type="unfinished"></translation>
+        <translation>Not a JSON object</translation>
     </message>
     <message>
         <source>逐轨预设《%1》</source>
-        <translation type="unfinished"></translation>
+        <translation>Per-track preset: %1</translation>
     </message>
     <message>
         <source>  预设含 %1 个本版未支持字段, 已忽略</source>
-        <translation type="unfinished"></translation>
+        <translation>  Preset has %1 field(s) not supported by this version, ignored</translation>
     </message>
     <message>
         <source>停止: 剩余 %1 个文件已跳过</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopped: %1 remaining file(s) skipped</translation>
     </message>
     <message>
         <source>━━━ [%1/%2] 转换 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>━━━ [%1/%2] Converting %3</translation>
     </message>
     <message>
         <source>━━━ 转换 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>━━━ Converting %1</translation>
     </message>
     <message>
         <source>✗ 无法创建输出目录: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Cannot create output folder: %1</translation>
     </message>
     <message>
         <source>执行: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Running: %1 %2</translation>
     </message>
     <message>
         <source>转换会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion session: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished"></translation>
+        <translation>in-process (direct library call)</translation>
     </message>
     <message>
         <source>子进程(起 CLI)</source>
-        <translation type="unfinished"></translation>
+        <translation>child process (CLI)</translation>
     </message>
     <message>
         <source>错误: 无法启动引擎 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: cannot start the engine — %1</translation>
     </message>
     <message>
         <source>✓ %1 完成</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ %1 done</translation>
     </message>
     <message>
         <source>■ 已停止: %1 (未完成的文件已删除)</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Stopped: %1 (incomplete file deleted)</translation>
     </message>
     <message>
         <source>■ 已停止: %1 (文件保留, 可能不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Stopped: %1 (file kept, may be incomplete)</translation>
     </message>
     <message>
         <source>■ 已停止(强制结束进程): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Stopped (process killed): %1</translation>
     </message>
     <message>
         <source>✗ %1 异常退出 (崩溃/被终止)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1 exited abnormally (crashed/killed)</translation>
     </message>
     <message>
         <source>✗ 退出码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Exit code: %1</translation>
     </message>
     <message>
         <source>── 引擎日志 (末尾 %1 行): %2 ──</source>
-        <translation type="unfinished"></translation>
+        <translation>── Engine log (last %1 lines): %2 ──</translation>
     </message>
     <message>
         <source>
 全部完成: %1 OK</source>
-        <translation type="unfinished"></translation>
+        <translation>
+All done: %1 OK</translation>
     </message>
     <message>
         <source>
 完成: %1 OK, %2 失败</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Done: %1 OK, %2 failed</translation>
     </message>
     <message>
         <source>转换已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion stopped</translation>
     </message>
     <message>
         <source>当前没有运行的进程</source>
-        <translation type="unfinished"></translation>
+        <translation>No process is running</translation>
     </message>
     <message>
         <source>正在停止转换进程…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopping conversion…</translation>
     </message>
     <message>
         <source>终止当前转换进程…</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminating the current conversion process…</translation>
     </message>
     <message>
         <source>正在通知引擎停止…</source>
-        <translation type="unfinished"></translation>
+        <translation>Asking the engine to stop…</translation>
     </message>
     <message>
         <source>引擎 2 秒内没有确认停止 —— 仍在收尾(可再点一次, 或关闭程序)。</source>
-        <translation type="unfinished"></translation>
+        <translation>The engine did not confirm the stop within 2 seconds — still finishing (click again or close the program).</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished"></translation>
+        <translation>[control] %1</translation>
     </message>
 </context>
 <context>
     <name>EngineSession</name>
     <message>
         <source>进程内会话起不来 (rc=%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>in-process session failed to start (rc=%1)</translation>
+    </message>
+</context>
+<context>
+    <name>FileListWidget</name>
+    <message>
+        <source>  ◇ 预设: %1</source>
+        <translation>  ◇ Preset: %1</translation>
     </message>
 </context>
 <context>
     <name>InputOutputPanel</name>
     <message>
         <source>添加文件…</source>
-        <translation type="unfinished"></translation>
+        <translation>Add Files…</translation>
     </message>
     <message>
         <source>添加目录…</source>
-        <translation type="unfinished"></translation>
+        <translation>Add Folder…</translation>
     </message>
     <message>
         <source>移除选中</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove Selected</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear List</translation>
     </message>
     <message>
         <source>支持拖入音频文件或文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Drag audio files or folders here</translation>
     </message>
     <message>
         <source>输出 .dsf / .dff 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Output .dsf / .dff file</translation>
     </message>
     <message>
         <source>浏览…</source>
-        <translation type="unfinished"></translation>
+        <translation>Browse…</translation>
     </message>
     <message>
         <source>输出文件:</source>
-        <translation type="unfinished"></translation>
+        <translation>Output file:</translation>
     </message>
     <message>
         <source>留空 = 用上面的输出文件; 填了就按命名模板给每个输入算输出文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>Leave empty to use the output file above; if set, every input gets its name from the naming template</translation>
     </message>
     <message>
         <source>批量输出: 所有输入写进这个目录, 文件名由下面的命名模板算</source>
-        <translation type="unfinished"></translation>
+        <translation>Batch output: all inputs are written into this folder, names come from the template below</translation>
     </message>
     <message>
         <source>浏览目录…</source>
-        <translation type="unfinished"></translation>
+        <translation>Browse Folder…</translation>
     </message>
     <message>
         <source>输出目录:</source>
-        <translation type="unfinished"></translation>
+        <translation>Output folder:</translation>
     </message>
     <message>
         <source>输出目录模式下每个文件的扩展名 (引擎按扩展名认格式)</source>
-        <translation type="unfinished"></translation>
+        <translation>File extension used in output-folder mode (the engine picks the format by extension)</translation>
     </message>
     <message>
         <source>变量: {input} 输入文件名  {ext} 输出格式  {track} / {track:02} 队列序号  {artist} {title} 界面字段
 留空 = {input}; 变量没有值时回退用输入文件名; 模板里可以带子目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables: {input} input file name  {ext} output format  {track} / {track:02} queue index  {artist} {title} UI fields
+Blank = {input}; a variable with no value falls back to the input file name; templates may contain subfolders</translation>
     </message>
     <message>
         <source>输出格式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Output format:</translation>
     </message>
     <message>
         <source>命名模板:</source>
-        <translation type="unfinished"></translation>
+        <translation>Naming template:</translation>
     </message>
     <message>
         <source>标签: DFF→COMT, DSF→ID3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags: DFF→COMT, DSF→ID3</translation>
     </message>
     <message>
         <source>0 = 不写曲目号 (引擎只接受 1..998)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 = no track number (the engine only accepts 1..998)</translation>
     </message>
     <message>
         <source>写入标签的说明文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Text written into the tag</translation>
     </message>
     <message>
         <source>从输入文件读取标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Read tags from input file</translation>
     </message>
     <message>
         <source>艺术家:</source>
-        <translation type="unfinished"></translation>
+        <translation>Artist:</translation>
     </message>
     <message>
         <source>标题:</source>
-        <translation type="unfinished"></translation>
+        <translation>Title:</translation>
     </message>
     <message>
         <source>专辑:</source>
-        <translation type="unfinished"></translation>
+        <translation>Album:</translation>
     </message>
     <message>
         <source>流派:</source>
-        <translation type="unfinished"></translation>
+        <translation>Genre:</translation>
     </message>
     <message>
         <source>年份:</source>
-        <translation type="unfinished"></translation>
+        <translation>Year:</translation>
     </message>
     <message>
         <source>曲目号:</source>
-        <translation type="unfinished"></translation>
+        <translation>Track:</translation>
     </message>
     <message>
         <source>备注:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment:</translation>
     </message>
     <message>
         <source>%1 个文件</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 file(s)</translation>
     </message>
     <message>
         <source>音频文件 (*.wav *.flac *.aiff *.aif *.m4a *.mp4 *.caf *.ape *.wv *.tta *.dsf *.dff *.dst *.wsd *.iso);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio files (*.wav *.flac *.aiff *.aif *.m4a *.mp4 *.caf *.ape *.wv *.tta *.dsf *.dff *.dst *.wsd *.iso);;All files (*)</translation>
     </message>
     <message>
         <source>选择输入文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Input Files</translation>
     </message>
     <message>
         <source>选择目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Folder</translation>
     </message>
     <message>
         <source>PCM 音频 (*.wav *.w64 *.flac);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM audio (*.wav *.w64 *.flac);;All files (*)</translation>
     </message>
     <message>
         <source>DSDIFF (*.dff);;DSD Stream (*.dsf);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF (*.dff);;DSD Stream (*.dsf);;All files (*)</translation>
     </message>
     <message>
         <source>DSD Stream (*.dsf)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSD Stream (*.dsf)</translation>
     </message>
     <message>
         <source>DSDIFF (*.dff)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF (*.dff)</translation>
     </message>
     <message>
         <source>选择输出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Output File</translation>
     </message>
     <message>
         <source>选择输出目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Output Folder</translation>
+    </message>
+    <message>
+        <source>波形/频谱预览…</source>
+        <translation>Waveform/Spectrogram Preview…</translation>
+    </message>
+    <message>
+        <source>逐轨预设…</source>
+        <translation>Per-track presets…</translation>
+    </message>
+    <message>
+        <source>给队列里每个文件单独指定一套预设
+预设只换编码/DSP 参数; 输出目录/输出格式与标签仍按面板</source>
+        <translation>Give each file in the queue its own preset
+A preset only changes encoding/DSP parameters; output folder/format and tags still come from the panel</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>开始转换</source>
-        <translation type="unfinished"></translation>
+        <translation>Start Conversion</translation>
     </message>
     <message>
         <source>Zuvo Audio Suite — 音频转换工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuvo Audio Suite — Audio Conversion Tool</translation>
     </message>
     <message>
         <source>设置输出文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Output file set: %1</translation>
     </message>
     <message>
         <source>目录中没有音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No audio files in this folder</translation>
     </message>
     <message>
         <source>转换进行中, 不能修改文件列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot modify the file list while conversion is running</translation>
     </message>
     <message>
         <source>找到 ZuvoEngine (音频转换引擎): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Found ZuvoEngine (audio conversion engine): %1</translation>
     </message>
     <message>
         <source>警告: 未找到 ZuvoEngine — 转换功能不可用。请将其放在程序同目录、或加入 PATH。</source>
-        <translation type="unfinished"></translation>
+        <translation>Warning: ZuvoEngine not found — conversion unavailable. Place it next to this program or add it to PATH.</translation>
     </message>
     <message>
         <source>未找到 ZuvoEngine</source>
-        <translation type="unfinished"></translation>
+        <translation>ZuvoEngine not found</translation>
     </message>
     <message>
         <source>已添加 %1 个文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Added %1 file(s)</translation>
     </message>
     <message>
         <source>已跳过 %1 个重复文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Skipped %1 duplicate file(s)</translation>
     </message>
     <message>
         <source>转换完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion Complete</translation>
     </message>
     <message>
         <source>转换 %1 个文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Converted %1 file(s)</translation>
     </message>
     <message>
         <source>转换 %1 个文件, %2 个失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Converted %1 file(s), %2 failed</translation>
     </message>
     <message>
         <source>打开输出目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Output Folder</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>AUTORUN 参数不完整</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN argument is incomplete</translation>
     </message>
     <message>
         <source>AUTORUN: %1 个输入 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN: %1 input(s) → %2</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>Output Format</translation>
     </message>
     <message>
         <source>逆向模式 (PDM2PCM) 的输出必须是 .wav 或 .flac</source>
-        <translation type="unfinished"></translation>
+        <translation>Reverse mode (PDM2PCM) output must be .wav or .flac</translation>
     </message>
     <message>
         <source>DXD 输出只支持 .wav / .w64 / .flac (引擎按扩展名认容器)</source>
-        <translation type="unfinished"></translation>
+        <translation>DXD output only supports .wav / .w64 / .flac (the engine picks the container by extension)</translation>
     </message>
     <message>
         <source>错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>错误: DST 压缩仅支持 DFF 格式输出
 请把输出格式/扩展名改为 .dff 或禁用 DST 压缩</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: DST compression only supports DFF output
+Change the output format/extension to .dff or disable DST compression</translation>
     </message>
     <message>
         <source>输出文件必须是 .dsf 或 .dff 格式</source>
-        <translation type="unfinished"></translation>
+        <translation>The output file must be .dsf or .dff</translation>
     </message>
     <message>
         <source>转换中</source>
-        <translation type="unfinished"></translation>
+        <translation>Busy</translation>
     </message>
     <message>
         <source>已有转换任务正在进行中, 请等待完成。</source>
-        <translation type="unfinished"></translation>
+        <translation>A conversion is already running; please wait for it to finish.</translation>
     </message>
     <message>
         <source>输入文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Input Files</translation>
     </message>
     <message>
         <source>请选择输入文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Please select input files</translation>
     </message>
     <message>
         <source>元数据</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadata</translation>
     </message>
     <message>
         <source>输出 .dff 必须填「艺术家」和「标题」两个值
 (它们是 DFF 的 COMT 标签; 必填项, 不填不开始转换)</source>
-        <translation type="unfinished"></translation>
+        <translation>A .dff output requires both “Artist” and “Title”
+(they form the DFF COMT tag; required — the conversion will not start without them)</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps</translation>
     </message>
     <message>
         <source>Taps 必须是偶数且不小于 512 (0 = 用引擎默认值)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps must be an even number of at least 512 (0 = engine default)</translation>
     </message>
     <message>
         <source>过渡带</source>
-        <translation type="unfinished"></translation>
+        <translation>Transition Band</translation>
     </message>
     <message>
         <source>阻带截止必须大于通带截止 (否则过渡带为零/负, 引擎会拒绝)</source>
-        <translation type="unfinished"></translation>
+        <translation>The stopband cutoff must be higher than the passband cutoff (otherwise the transition band is zero/negative and the engine rejects it)</translation>
     </message>
     <message>
         <source>输出目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Output Folder</translation>
     </message>
     <message>
         <source>无法创建输出目录:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot create output folder:
+%1</translation>
     </message>
     <message>
         <source>输出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Output File</translation>
     </message>
     <message>
         <source>请选择输出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Please select an output file</translation>
     </message>
     <message>
         <source>噪声本底分析</source>
-        <translation type="unfinished"></translation>
+        <translation>Noise-Floor Profiling</translation>
     </message>
     <message>
         <source>噪声本底分析需要勾选 PDF 报告才能生效
 请启用「PDF 报告」开关</source>
-        <translation type="unfinished"></translation>
+        <translation>Noise-floor profiling only works with the PDF report enabled
+Please turn on the “PDF report” option</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>Equalizer</translation>
     </message>
     <message>
         <source>启用了均衡器但没有有效频段
 请添加至少一个频段 (中心频率 &gt; 0), 或禁用均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>The equalizer is enabled but has no valid band
+Add at least one band (center frequency &gt; 0) or disable the equalizer</translation>
     </message>
     <message>
         <source>引擎缺失</source>
-        <translation type="unfinished"></translation>
+        <translation>Engine Missing</translation>
     </message>
     <message>
         <source>未找到 ZuvoEngine。请将其放在程序同目录、或加入 PATH,
 也可设置环境变量 ZUVO_ENGINE_BIN 指向其完整路径。</source>
-        <translation type="unfinished"></translation>
+        <translation>ZuvoEngine not found. Place it next to this program or add it to PATH,
+or set the environment variable ZUVO_ENGINE_BIN to its full path.</translation>
+    </message>
+    <message>
+        <source>均衡器未启用</source>
+        <translation>Equalizer not enabled</translation>
+    </message>
+    <message>
+        <source>基本参数</source>
+        <translation>Basic</translation>
+    </message>
+    <message>
+        <source>滤波</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>空间与音调</source>
+        <translation>Spatial &amp; Tone</translation>
+    </message>
+    <message>
+        <source>声道</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>高级</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>启用 DST 压缩模式</source>
+        <translation>DST compression mode enabled</translation>
+    </message>
+    <message>
+        <source>禁用 DST 压缩模式</source>
+        <translation>DST compression mode disabled</translation>
+    </message>
+    <message>
+        <source>DST 压缩</source>
+        <translation>DST Compression</translation>
+    </message>
+    <message>
+        <source>DST 压缩仅支持 DFF 格式
+输出格式将自动更改为 DFF</source>
+        <translation>DST compression only supports the DFF format
+The output format will be changed to DFF automatically</translation>
+    </message>
+    <message>
+        <source>DST 压缩仅支持 DFF 格式
+输出文件将自动更改为 DFF 格式</source>
+        <translation>DST compression only supports the DFF format
+The output file will be changed to DFF automatically</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能修改参数</source>
+        <translation>Cannot modify parameters while converting</translation>
+    </message>
+    <message>
+        <source>已加载母带预设: %1</source>
+        <translation>Mastering preset loaded: %1</translation>
+    </message>
+    <message>
+        <source>均衡器: %1 行无效 (需中心频率&gt;0) 已被跳过</source>
+        <translation>Equalizer: %1 invalid row(s) (center frequency must be &gt; 0) skipped</translation>
+    </message>
+    <message>
+        <source>注意: 无法向引擎查询它不支持的选项, 直接开始转换</source>
+        <translation>Note: could not ask the engine which options it does not support; starting the conversion anyway</translation>
+    </message>
+    <message>
+        <source>转换未开始: 当前引擎构建不支持这些已选择的选项: %1</source>
+        <translation>Conversion not started: this engine build does not support these selected options: %1</translation>
+    </message>
+    <message>
+        <source>引擎不支持的选项</source>
+        <translation>Unsupported Engine Options</translation>
+    </message>
+    <message>
+        <source>当前引擎构建不支持下列已选择的选项, 转换不会开始:
+%1
+
+请在参数页关闭它们后再开始 (预设里可以保留)。</source>
+        <translation>This engine build does not support the following selected options, so the conversion will not start:
+%1
+
+Turn them off on the parameter pages and start again (they can stay in presets).</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能修改预设</source>
+        <translation>Cannot modify presets while converting</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能改逐轨预设。</source>
+        <translation>Conversion in progress — per-track presets cannot be changed now.</translation>
+    </message>
+    <message>
+        <source>请先添加输入文件</source>
+        <translation>Add input files first</translation>
+    </message>
+    <message>
+        <source>逐轨预设: 已全部改回「用当前参数」</source>
+        <translation>Per-track presets: all reverted to “use current parameters”</translation>
+    </message>
+    <message>
+        <source>逐轨预设: %1 个文件各用一套</source>
+        <translation>Per-track presets: %1 file(s) have their own preset</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能预览</source>
+        <translation>Cannot preview while converting</translation>
+    </message>
+    <message>
+        <source>请先添加文件</source>
+        <translation>Add files first</translation>
+    </message>
+    <message>
+        <source>没有可预览的文件</source>
+        <translation>No file to preview</translation>
+    </message>
+    <message>
+        <source>单环 (NS, --order 9)</source>
+        <translation>Single loop (NS, --order 9)</translation>
+    </message>
+    <message>
+        <source>古典</source>
+        <translation>Classical</translation>
+    </message>
+    <message>
+        <source>古典: DSD-256, 131072 taps, 高带宽</source>
+        <translation>Classical: DSD-256, 131072 taps, high bandwidth</translation>
+    </message>
+    <message>
+        <source>流行</source>
+        <translation>Pop</translation>
+    </message>
+    <message>
+        <source>流行: DSD-128, 65536 taps</source>
+        <translation>Pop: DSD-128, 65536 taps</translation>
+    </message>
+    <message>
+        <source>爵士</source>
+        <translation>Jazz</translation>
+    </message>
+    <message>
+        <source>爵士: DSD-128, 65536 taps</source>
+        <translation>Jazz: DSD-128, 65536 taps</translation>
+    </message>
+    <message>
+        <source>DSD 采样率:</source>
+        <translation>DSD sample rate:</translation>
+    </message>
+    <message>
+        <source>Taps 数 (0=引擎默认):</source>
+        <translation>Taps (0=engine default):</translation>
+    </message>
+    <message>
+        <source>SOS cascade + error feedback, NS15 profile (引擎默认): 实测带内噪声比单环 NS9 低 11.4 dB</source>
+        <translation>SOS cascade + error feedback, NS15 profile (engine default): measured in-band noise 11.4 dB lower than single-loop NS9</translation>
+    </message>
+    <message>
+        <source>Chebyshev 多项式压缩 (可与 MASH 叠加)</source>
+        <translation>Chebyshev polynomial compression (stackable with MASH)</translation>
+    </message>
+    <message>
+        <source>调制器:</source>
+        <translation>Modulator:</translation>
+    </message>
+    <message>
+        <source>母带预设:</source>
+        <translation>Mastering presets:</translation>
+    </message>
+    <message>
+        <source>预设管理器…</source>
+        <translation>Preset Manager…</translation>
+    </message>
+    <message>
+        <source>DST 压缩 (仅 .dff 输出)</source>
+        <translation>DST compression (.dff output only)</translation>
+    </message>
+    <message>
+        <source>DXD 输出 (高解析 PCM)</source>
+        <translation>DXD output (hi-res PCM)</translation>
+    </message>
+    <message>
+        <source>逆向模式 (PDM2PCM)</source>
+        <translation>Reverse mode (PDM2PCM)</translation>
+    </message>
+    <message>
+        <source>输入 DSD(DSF/DFF), 输出 PCM/WAV —— 与 PCM→PDM 无关</source>
+        <translation>Input DSD (DSF/DFF), output PCM/WAV — unrelated to PCM→PDM</translation>
+    </message>
+    <message>
+        <source>DST 压缩等级 (0=关闭):</source>
+        <translation>DST compression level (0=off):</translation>
+    </message>
+    <message>
+        <source>高带宽模式</source>
+        <translation>High-bandwidth mode</translation>
+    </message>
+    <message>
+        <source>OpenCL 加速 (GPU)</source>
+        <translation>OpenCL acceleration (GPU)</translation>
+    </message>
+    <message>
+        <source>当前引擎构建未编译 OpenCL 支持</source>
+        <translation>This engine build was compiled without OpenCL support</translation>
+    </message>
+    <message>
+        <source>添加 PDF 报告</source>
+        <translation>Add PDF report</translation>
+    </message>
+    <message>
+        <source>当前引擎构建未编译 PDF 报告 (需要 rsvg+cairo)</source>
+        <translation>This engine build has no PDF report support (needs rsvg+cairo)</translation>
+    </message>
+    <message>
+        <source>分析报告 (--report)</source>
+        <translation>Analysis report (--report)</translation>
+    </message>
+    <message>
+        <source>噪声本底分析 (需 PDF 报告)</source>
+        <translation>Noise-floor profiling (requires PDF report)</translation>
+    </message>
+    <message>
+        <source>降噪: 关</source>
+        <translation>Denoise: Off</translation>
+    </message>
+    <message>
+        <source>降噪: 轻 (-12dB 地板, 最保真)</source>
+        <translation>Denoise: Light (-12dB floor, most faithful)</translation>
+    </message>
+    <message>
+        <source>降噪: 标准 (-18dB 地板)</source>
+        <translation>Denoise: Standard (-18dB floor)</translation>
+    </message>
+    <message>
+        <source>降噪: 强 (感知加权地板, 最深)</source>
+        <translation>Denoise: Strong (perceptually weighted floor, deepest)</translation>
+    </message>
+    <message>
+        <source>保留乐器泛音 (降噪时保住泛音与泛音列)</source>
+        <translation>Preserve instrument harmonics (keeps harmonics and overtone series when denoising)</translation>
+    </message>
+    <message>
+        <source>报告里加峰值 (--peak)</source>
+        <translation>Add peak level to report (--peak)</translation>
+    </message>
+    <message>
+        <source>报告里加 RMS (--rms)</source>
+        <translation>Add RMS to report (--rms)</translation>
+    </message>
+    <message>
+        <source>报告里不要动态范围一节 (--no-dynamic-range)</source>
+        <translation>Omit dynamic range section from report (--no-dynamic-range)</translation>
+    </message>
+    <message>
+        <source>输出模式</source>
+        <translation>Output Mode</translation>
+    </message>
+    <message>
+        <source>带宽、加速与报告</source>
+        <translation>Bandwidth, Acceleration &amp; Report</translation>
+    </message>
+    <message>
+        <source>降噪与报告内容</source>
+        <translation>Denoise &amp; Report Content</translation>
+    </message>
+    <message>
+        <source>噪声本底分析需要勾选 PDF 报告才能生效
+请启用「添加 PDF 报告」</source>
+        <translation>Noise-floor profiling only works with the PDF report enabled
+Please turn on “Add PDF report”</translation>
+    </message>
+    <message>
+        <source>声道设置</source>
+        <translation>Channel Settings</translation>
+    </message>
+    <message>
+        <source>强制原始声道数</source>
+        <translation>Force original channel count</translation>
+    </message>
+    <message>
+        <source>四声道模式 (需重置声道数=4)</source>
+        <translation>Quad mode (requires reset channel count = 4)</translation>
+    </message>
+    <message>
+        <source>添加环绕声道</source>
+        <translation>Add surround channels</translation>
+    </message>
+    <message>
+        <source>声道交换</source>
+        <translation>Swap channels</translation>
+    </message>
+    <message>
+        <source>重置声道数 (0=不动):</source>
+        <translation>Reset channel count (0=unchanged):</translation>
+    </message>
+    <message>
+        <source>规则</source>
+        <translation>Rules</translation>
+    </message>
+    <message>
+        <source>「强制原始声道数」优先: 勾选后重置声道数、四声道模式和添加环绕声道都不发给引擎。
+
+四声道模式需要重置声道数为 4; 勾选时会自动设为 4。
+
+「声道交换」交换前两个声道, 与其它选项可同时使用。</source>
+        <translation>“Force original channel count” takes precedence: when checked, reset channel count, quad mode and add surround channels are not passed to the engine.
+
+Quad mode requires a reset channel count of 4; it is set to 4 automatically when checked.
+
+“Swap channels” swaps the first two channels and can be combined with the other options.</translation>
+    </message>
+    <message>
+        <source>四声道模式: 重置声道数已自动设为 4</source>
+        <translation>Quad mode: reset channel count set to 4</translation>
+    </message>
+    <message>
+        <source>启用均衡器 (EQ)</source>
+        <translation>Enable equalizer (EQ)</translation>
+    </message>
+    <message>
+        <source>添加频段</source>
+        <translation>Add Band</translation>
+    </message>
+    <message>
+        <source>移除选中</source>
+        <translation>Remove Selected</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>中心频率 (Hz)</source>
+        <translation>Center frequency (Hz)</translation>
+    </message>
+    <message>
+        <source>增益 (dB)</source>
+        <translation>Gain (dB)</translation>
+    </message>
+    <message>
+        <source>带宽</source>
+        <translation>Bandwidth</translation>
+    </message>
+    <message>
+        <source>单位</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>预览按 44.1 kHz 估算 — 引擎槽位: 首段低架, 满 10 段时末段高架</source>
+        <translation>Preview estimated at 44.1 kHz — engine slots: first band is low shelf; last band is high shelf when all 10 bands are used</translation>
+    </message>
+    <message>
+        <source>启用均衡器 (--eq 频段 f,g,bw{单位})</source>
+        <translation>Equalizer enabled (--eq band f,g,bw{unit})</translation>
+    </message>
+    <message>
+        <source>禁用均衡器</source>
+        <translation>Equalizer disabled</translation>
+    </message>
+    <message>
+        <source>窗口法 (Window Method)</source>
+        <translation>Window Method</translation>
+    </message>
+    <message>
+        <source>最小相位 (Min-Phase)</source>
+        <translation>Minimum Phase</translation>
+    </message>
+    <message>
+        <source>应用预失真处理</source>
+        <translation>Apply pre-distortion processing</translation>
+    </message>
+    <message>
+        <source>算法:</source>
+        <translation>Algorithm:</translation>
+    </message>
+    <message>
+        <source>滤波类型:</source>
+        <translation>Filter type:</translation>
+    </message>
+    <message>
+        <source>窗口法参数</source>
+        <translation>Window-method parameters</translation>
+    </message>
+    <message>
+        <source>窗口类型:</source>
+        <translation>Window type:</translation>
+    </message>
+    <message>
+        <source>Remez 算法参数</source>
+        <translation>Remez algorithm parameters</translation>
+    </message>
+    <message>
+        <source>最大迭代次数:</source>
+        <translation>Max iterations:</translation>
+    </message>
+    <message>
+        <source>网格密度:</source>
+        <translation>Grid density:</translation>
+    </message>
+    <message>
+        <source>停止带衰减 (A_stop)</source>
+        <translation>Stopband Attenuation (A_stop)</translation>
+    </message>
+    <message>
+        <source>0=不发</source>
+        <translation>0=off</translation>
+    </message>
+    <message>
+        <source>停止带衰减 (dB):</source>
+        <translation>Stopband attenuation (dB):</translation>
+    </message>
+    <message>
+        <source>过渡带 (截止频率)</source>
+        <translation>Transition band (cutoff frequencies)</translation>
+    </message>
+    <message>
+        <source>通带截止 (Hz):</source>
+        <translation>Passband cutoff (Hz):</translation>
+    </message>
+    <message>
+        <source>阻带截止 (Hz):</source>
+        <translation>Stopband cutoff (Hz):</translation>
+    </message>
+    <message>
+        <source>增益 (ABS)</source>
+        <translation>Gain (ABS)</translation>
+    </message>
+    <message>
+        <source>绝对值增益:</source>
+        <translation>Absolute gain:</translation>
+    </message>
+    <message>
+        <source>HRTF 空间音频</source>
+        <translation>HRTF Spatial Audio</translation>
+    </message>
+    <message>
+        <source>启用 HRTF 空间音频 (--hrtf)</source>
+        <translation>Enable HRTF spatial audio (--hrtf)</translation>
+    </message>
+    <message>
+        <source>启用 HRTF 空间音频 (--hrtf &lt;mono|ms|stereo&gt;)</source>
+        <translation>HRTF spatial audio enabled (--hrtf &lt;mono|ms|stereo&gt;)</translation>
+    </message>
+    <message>
+        <source>禁用 HRTF 空间音频</source>
+        <translation>HRTF spatial audio disabled</translation>
+    </message>
+    <message>
+        <source>模式:</source>
+        <translation>Mode:</translation>
+    </message>
+    <message>
+        <source>干湿比 (dry/wet):</source>
+        <translation>Dry/wet mix:</translation>
+    </message>
+    <message>
+        <source>侧向扩散比:</source>
+        <translation>Side diffusion mix:</translation>
+    </message>
+    <message>
+        <source>深度 (+1前 / 0耳位 / -1后):</source>
+        <translation>Depth (+1 front / 0 ear level / -1 rear):</translation>
+    </message>
+    <message>
+        <source>使用引擎内置 HRIR; 不提供自定义 .sofa 文件</source>
+        <translation>Uses the engine's built-in HRIR; custom .sofa files are not supported</translation>
+    </message>
+    <message>
+        <source>环绕</source>
+        <translation>Surround</translation>
+    </message>
+    <message>
+        <source>启用环绕 (--surround)</source>
+        <translation>Enable surround (--surround)</translation>
+    </message>
+    <message>
+        <source>启用环绕 (--surround delayMs mix side balance)</source>
+        <translation>Surround enabled (--surround delayMs mix side balance)</translation>
+    </message>
+    <message>
+        <source>禁用环绕</source>
+        <translation>Surround disabled</translation>
+    </message>
+    <message>
+        <source>侧向 (side)</source>
+        <translation>Side</translation>
+    </message>
+    <message>
+        <source>延迟 (ms):</source>
+        <translation>Delay (ms):</translation>
+    </message>
+    <message>
+        <source>混合 (%):</source>
+        <translation>Mix (%):</translation>
+    </message>
+    <message>
+        <source>平衡 (-100~100, 0=不发):</source>
+        <translation>Balance (-100~100, 0=off):</translation>
+    </message>
+    <message>
+        <source>音调 (shelving)</source>
+        <translation>Tone (shelving)</translation>
+    </message>
+    <message>
+        <source>低音 (dB):</source>
+        <translation>Bass (dB):</translation>
+    </message>
+    <message>
+        <source>高音 (dB):</source>
+        <translation>Treble (dB):</translation>
+    </message>
+    <message>
+        <source>EQ 前置衰减 (dB):</source>
+        <translation>EQ pre-cut (dB):</translation>
+    </message>
+    <message>
+        <source>启用 DSRE 数字频谱共振增强 (--dsre)</source>
+        <translation>Enable DSRE digital spectral resonance enhancement (--dsre)</translation>
+    </message>
+    <message>
+        <source>启用 DSRE (--dsre mix)</source>
+        <translation>DSRE enabled (--dsre mix)</translation>
+    </message>
+    <message>
+        <source>禁用 DSRE</source>
+        <translation>DSRE disabled</translation>
+    </message>
+    <message>
+        <source>干湿比 (0=dry, 1=全效果):</source>
+        <translation>Dry/wet (0=dry, 1=full effect):</translation>
+    </message>
+</context>
+<context>
+    <name>PerTrackDialog</name>
+    <message>
+        <source>逐轨预设 (每个文件可各用一套)</source>
+        <translation>Per-track presets (one preset per file)</translation>
+    </message>
+    <message>
+        <source>每行给一个文件挑一套预设; 「(用当前参数)」= 跟随主面板。
+预设只换编码/DSP 参数 —— 输出目录/输出格式与标签仍按主面板。</source>
+        <translation>Pick a preset for each file, one row per file; “(use current parameters)” = follow the main panel.
+A preset only changes encoding/DSP parameters — output folder/format and tags still come from the main panel.</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>预设</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <source>(用当前参数)</source>
+        <translation>(use current parameters)</translation>
+    </message>
+    <message>
+        <source>(预设目录里没有预设 —— 先在上面「母带预设」里保存一套)</source>
+        <translation>(no presets in the preset folder — first save one under “Mastering presets” above)</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManagerDialog</name>
+    <message>
+        <source>预设管理器</source>
+        <translation>Preset Manager</translation>
+    </message>
+    <message>
+        <source>预设为 JSON 文件 (与 GTK 版同目录同键名, 可互读)
+写入目录: %1</source>
+        <translation>Presets are JSON files (same folder &amp; key names as the GTK version, interchangeable)
+Write folder: %1</translation>
+    </message>
+    <message>
+        <source>加载选中</source>
+        <translation>Load Selected</translation>
+    </message>
+    <message>
+        <source>删除选中</source>
+        <translation>Delete Selected</translation>
+    </message>
+    <message>
+        <source>保存当前为…</source>
+        <translation>Save Current As…</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>预设</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <source>无法读取: %1</source>
+        <translation>Cannot read: %1</translation>
+    </message>
+    <message>
+        <source>预设文件解析失败: %1</source>
+        <translation>Failed to parse preset file: %1</translation>
+    </message>
+    <message>
+        <source>预设含 %1 个本版未支持字段, 已忽略</source>
+        <translation>Preset has %1 field(s) not supported by this version, ignored</translation>
+    </message>
+    <message>
+        <source>已加载预设: %1</source>
+        <translation>Preset loaded: %1</translation>
+    </message>
+    <message>
+        <source>删除预设</source>
+        <translation>Delete Preset</translation>
+    </message>
+    <message>
+        <source>确定删除预设 %1 ?</source>
+        <translation>Delete preset %1?</translation>
+    </message>
+    <message>
+        <source>删除失败: %1</source>
+        <translation>Delete failed: %1</translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>预设名称:</source>
+        <translation>Preset name:</translation>
+    </message>
+    <message>
+        <source>预设 %1 已存在, 覆盖?</source>
+        <translation>Preset %1 already exists. Overwrite?</translation>
+    </message>
+    <message>
+        <source>预设名称无效: %1</source>
+        <translation>Invalid preset name: %1</translation>
+    </message>
+    <message>
+        <source>保存失败: %1</source>
+        <translation>Save failed: %1</translation>
+    </message>
+    <message>
+        <source>已保存预设: %1</source>
+        <translation>Preset saved: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>名称为空</source>
+        <translation>Name is empty</translation>
+    </message>
+    <message>
+        <source>名称不能包含 %1 或控制字符</source>
+        <translation>Name must not contain %1 or control characters</translation>
+    </message>
+    <message>
+        <source>名称不能以点结尾</source>
+        <translation>Name must not end with a dot</translation>
+    </message>
+    <message>
+        <source>名称 %1 是系统保留的设备名</source>
+        <translation>Name %1 is a reserved system device name</translation>
+    </message>
+    <message>
+        <source>文件过大 (%1 字节)</source>
+        <translation>File too large (%1 bytes)</translation>
+    </message>
+    <message>
+        <source>顶层不是 JSON 对象</source>
+        <translation>Top level is not a JSON object</translation>
     </message>
 </context>
 <context>
     <name>RunControlsPanel</name>
     <message>
         <source>开始转换</source>
-        <translation type="unfinished"></translation>
+        <translation>Start Conversion</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear Log</translation>
     </message>
     <message>
         <source>详细日志 (--verbose)</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbose log (--verbose)</translation>
     </message>
     <message>
         <source>保留引擎日志（退出不删）</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep engine log (not deleted on exit)</translation>
     </message>
     <message>
         <source>关（默认）：引擎日志写在系统临时目录里的一次性目录中，退出即清；
 开：写到 %1 下并保留，便于把日志发给厂商排障。</source>
-        <translation type="unfinished"></translation>
+        <translation>Off (default): the engine log is written to a throwaway folder in the system temp directory and deleted on exit;
+On: it is written under %1 and kept, so you can send it to the vendor for troubleshooting.</translation>
     </message>
     <message>
         <source>子进程: ZuvoEngine</source>
-        <translation type="unfinished"></translation>
+        <translation>Child process: ZuvoEngine</translation>
     </message>
     <message>
         <source>GUI 通过 QProcess 调用同目录/环境变量指定的 ZuvoEngine</source>
-        <translation type="unfinished"></translation>
+        <translation>The GUI runs ZuvoEngine via QProcess, from the program folder or the path set by the environment variable</translation>
     </message>
 </context>
 <context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Language</translation>
     </message>
     <message>
         <source>界面语言。切换后程序会重启一次以便整套界面换语言。</source>
-        <translation type="unfinished"></translation>
+        <translation>Interface language. The program restarts once so the whole interface switches language.</translation>
     </message>
     <message>
         <source>跟随系统</source>
-        <translation type="unfinished"></translation>
+        <translation>Follow system</translation>
     </message>
     <message>
         <source>界面语言已切换，程序将自动重启一次以生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>Interface language changed. The program will restart once to apply it.</translation>
+    </message>
+</context>
+<context>
+    <name>pv::PreviewDialog</name>
+    <message>
+        <source>预览: %1</source>
+        <translation>Preview: %1</translation>
+    </message>
+    <message>
+        <source>波形</source>
+        <translation>Waveform</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Spectrogram</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>%1 — %2 Hz / %3 ch, 预览 %4 s (上限 30 s)</source>
+        <translation>%1 — %2 Hz / %3 ch, preview %4 s (max 30 s)</translation>
+    </message>
+    <message>
+        <source>该格式 (%1) 预览待后续 — 目前仅支持 WAV (DSD 解码属后续里程碑)</source>
+        <translation>Preview of this format (%1) is not available yet — only WAV for now (DSD decoding is planned for a later milestone)</translation>
+    </message>
+    <message>
+        <source>解码失败: %1</source>
+        <translation>Decoding failed: %1</translation>
     </message>
 </context>
 </TS>

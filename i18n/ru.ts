@@ -5,536 +5,1275 @@
     <name>ConversionQueue</name>
     <message>
         <source>引擎日志: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Журнал движка: %1</translation>
     </message>
     <message>
         <source>(交给引擎默认)</source>
-        <translation type="unfinished"></translation>
+        <translation>(по умолчанию движка)</translation>
     </message>
     <message>
         <source>待转换文件: %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлов к конвертации: %1</translation>
     </message>
     <message>
         <source>输出目录: %1 (命名模板: %2, 格式: %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка вывода: %1 (шаблон имени: %2, формат: %3)</translation>
     </message>
     <message>
         <source>✗ 逐轨预设无法解析, 本文件改用当前参数: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Не удалось разобрать пресет дорожки; для этого файла используются текущие параметры: %1 (%2)</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся прочитать файл</translation>
     </message>
     <message>
         <source>不是 JSON 对象</source>
-        <translation type="unfinished"></translation>
+        <translation>Не является объектом JSON</translation>
     </message>
     <message>
         <source>逐轨预设《%1》</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет дорожки «%1»</translation>
     </message>
     <message>
         <source>  预设含 %1 个本版未支持字段, 已忽略</source>
-        <translation type="unfinished"></translation>
+        <translation>  Полей пресета, не поддерживаемых этой версией: %1 — пропущены</translation>
     </message>
     <message>
         <source>停止: 剩余 %1 个文件已跳过</source>
-        <translation type="unfinished"></translation>
+        <translation>Остановлено: пропущено оставшихся файлов: %1</translation>
     </message>
     <message>
         <source>━━━ [%1/%2] 转换 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>━━━ [%1/%2] Конвертация %3</translation>
     </message>
     <message>
         <source>━━━ 转换 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>━━━ Конвертация %1</translation>
     </message>
     <message>
         <source>✗ 无法创建输出目录: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Не удаётся создать папку вывода: %1</translation>
     </message>
     <message>
         <source>执行: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнение: %1 %2</translation>
     </message>
     <message>
         <source>转换会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сеанс конвертации: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished"></translation>
+        <translation>в процессе (прямой вызов библиотеки)</translation>
     </message>
     <message>
         <source>子进程(起 CLI)</source>
-        <translation type="unfinished"></translation>
+        <translation>дочерний процесс (CLI)</translation>
     </message>
     <message>
         <source>错误: 无法启动引擎 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка: не удаётся запустить движок — %1</translation>
     </message>
     <message>
         <source>✓ %1 完成</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ %1 готово</translation>
     </message>
     <message>
         <source>■ 已停止: %1 (未完成的文件已删除)</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Остановлено: %1 (незавершённый файл удалён)</translation>
     </message>
     <message>
         <source>■ 已停止: %1 (文件保留, 可能不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Остановлено: %1 (файл сохранён, может быть неполным)</translation>
     </message>
     <message>
         <source>■ 已停止(强制结束进程): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Остановлено (процесс принудительно завершён): %1</translation>
     </message>
     <message>
         <source>✗ %1 异常退出 (崩溃/被终止)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: аварийное завершение (сбой/принудительная остановка)</translation>
     </message>
     <message>
         <source>✗ 退出码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Код выхода: %1</translation>
     </message>
     <message>
         <source>── 引擎日志 (末尾 %1 行): %2 ──</source>
-        <translation type="unfinished"></translation>
+        <translation>── Журнал движка (последние строки: %1): %2 ──</translation>
     </message>
     <message>
         <source>
 全部完成: %1 OK</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Всё готово: %1 OK</translation>
     </message>
     <message>
         <source>
 完成: %1 OK, %2 失败</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Готово: %1 OK, %2 с ошибкой</translation>
     </message>
     <message>
         <source>转换已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Конвертация остановлена</translation>
     </message>
     <message>
         <source>当前没有运行的进程</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет запущенных процессов</translation>
     </message>
     <message>
         <source>正在停止转换进程…</source>
-        <translation type="unfinished"></translation>
+        <translation>Остановка конвертации…</translation>
     </message>
     <message>
         <source>终止当前转换进程…</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершение текущего процесса конвертации…</translation>
     </message>
     <message>
         <source>正在通知引擎停止…</source>
-        <translation type="unfinished"></translation>
+        <translation>Запрос остановки движку…</translation>
     </message>
     <message>
         <source>引擎 2 秒内没有确认停止 —— 仍在收尾(可再点一次, 或关闭程序)。</source>
-        <translation type="unfinished"></translation>
+        <translation>Движок не подтвердил остановку в течение 2 секунд — завершение ещё идёт (нажмите ещё раз или закройте программу).</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished"></translation>
+        <translation>[управление] %1</translation>
     </message>
 </context>
 <context>
     <name>EngineSession</name>
     <message>
         <source>进程内会话起不来 (rc=%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось запустить сеанс в процессе (rc=%1)</translation>
+    </message>
+</context>
+<context>
+    <name>FileListWidget</name>
+    <message>
+        <source>  ◇ 预设: %1</source>
+        <translation>  ◇ Пресет: %1</translation>
     </message>
 </context>
 <context>
     <name>InputOutputPanel</name>
     <message>
         <source>添加文件…</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить файлы…</translation>
     </message>
     <message>
         <source>添加目录…</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить папку…</translation>
     </message>
     <message>
         <source>移除选中</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить выбранное</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить список</translation>
     </message>
     <message>
         <source>支持拖入音频文件或文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Перетащите сюда аудиофайлы или папки</translation>
     </message>
     <message>
         <source>输出 .dsf / .dff 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной файл .dsf / .dff</translation>
     </message>
     <message>
         <source>浏览…</source>
-        <translation type="unfinished"></translation>
+        <translation>Обзор…</translation>
     </message>
     <message>
         <source>输出文件:</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной файл:</translation>
     </message>
     <message>
         <source>留空 = 用上面的输出文件; 填了就按命名模板给每个输入算输出文件名</source>
-        <translation type="unfinished"></translation>
+        <translation>Пусто — используется выходной файл выше; если задано, имя для каждого входного файла строится по шаблону</translation>
     </message>
     <message>
         <source>批量输出: 所有输入写进这个目录, 文件名由下面的命名模板算</source>
-        <translation type="unfinished"></translation>
+        <translation>Пакетный вывод: все входные файлы записываются в эту папку, имена строятся по шаблону ниже</translation>
     </message>
     <message>
         <source>浏览目录…</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать папку…</translation>
     </message>
     <message>
         <source>输出目录:</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка вывода:</translation>
     </message>
     <message>
         <source>输出目录模式下每个文件的扩展名 (引擎按扩展名认格式)</source>
-        <translation type="unfinished"></translation>
+        <translation>Расширение файлов в режиме папки вывода (движок определяет формат по расширению)</translation>
     </message>
     <message>
         <source>变量: {input} 输入文件名  {ext} 输出格式  {track} / {track:02} 队列序号  {artist} {title} 界面字段
 留空 = {input}; 变量没有值时回退用输入文件名; 模板里可以带子目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Переменные: {input} имя входного файла  {ext} выходной формат  {track} / {track:02} номер в очереди  {artist} {title} поля интерфейса
+Пусто = {input}; переменная без значения заменяется именем входного файла; шаблон может содержать подпапки</translation>
     </message>
     <message>
         <source>输出格式:</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной формат:</translation>
     </message>
     <message>
         <source>命名模板:</source>
-        <translation type="unfinished"></translation>
+        <translation>Шаблон имени:</translation>
     </message>
     <message>
         <source>标签: DFF→COMT, DSF→ID3</source>
-        <translation type="unfinished"></translation>
+        <translation>Теги: DFF→COMT, DSF→ID3</translation>
     </message>
     <message>
         <source>0 = 不写曲目号 (引擎只接受 1..998)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 = без номера трека (движок принимает только 1..998)</translation>
     </message>
     <message>
         <source>写入标签的说明文字</source>
-        <translation type="unfinished"></translation>
+        <translation>Текст комментария для тега</translation>
     </message>
     <message>
         <source>从输入文件读取标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Читать теги из входного файла</translation>
     </message>
     <message>
         <source>艺术家:</source>
-        <translation type="unfinished"></translation>
+        <translation>Исполнитель:</translation>
     </message>
     <message>
         <source>标题:</source>
-        <translation type="unfinished"></translation>
+        <translation>Название:</translation>
     </message>
     <message>
         <source>专辑:</source>
-        <translation type="unfinished"></translation>
+        <translation>Альбом:</translation>
     </message>
     <message>
         <source>流派:</source>
-        <translation type="unfinished"></translation>
+        <translation>Жанр:</translation>
     </message>
     <message>
         <source>年份:</source>
-        <translation type="unfinished"></translation>
+        <translation>Год:</translation>
     </message>
     <message>
         <source>曲目号:</source>
-        <translation type="unfinished"></translation>
+        <translation>Трек №:</translation>
     </message>
     <message>
         <source>备注:</source>
-        <translation type="unfinished"></translation>
+        <translation>Комментарий:</translation>
     </message>
     <message>
         <source>%1 个文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлов: %1</translation>
     </message>
     <message>
         <source>音频文件 (*.wav *.flac *.aiff *.aif *.m4a *.mp4 *.caf *.ape *.wv *.tta *.dsf *.dff *.dst *.wsd *.iso);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Аудиофайлы (*.wav *.flac *.aiff *.aif *.m4a *.mp4 *.caf *.ape *.wv *.tta *.dsf *.dff *.dst *.wsd *.iso);;Все файлы (*)</translation>
     </message>
     <message>
         <source>选择输入文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор входных файлов</translation>
     </message>
     <message>
         <source>选择目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор папки</translation>
     </message>
     <message>
         <source>PCM 音频 (*.wav *.w64 *.flac);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM-аудио (*.wav *.w64 *.flac);;Все файлы (*)</translation>
     </message>
     <message>
         <source>DSDIFF (*.dff);;DSD Stream (*.dsf);;所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF (*.dff);;DSD Stream (*.dsf);;Все файлы (*)</translation>
     </message>
     <message>
         <source>DSD Stream (*.dsf)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSD Stream (*.dsf)</translation>
     </message>
     <message>
         <source>DSDIFF (*.dff)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF (*.dff)</translation>
     </message>
     <message>
         <source>选择输出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор выходного файла</translation>
     </message>
     <message>
         <source>选择输出目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбор папки вывода</translation>
+    </message>
+    <message>
+        <source>波形/频谱预览…</source>
+        <translation>Просмотр волны/спектрограммы…</translation>
+    </message>
+    <message>
+        <source>逐轨预设…</source>
+        <translation>Пресеты дорожек…</translation>
+    </message>
+    <message>
+        <source>给队列里每个文件单独指定一套预设
+预设只换编码/DSP 参数; 输出目录/输出格式与标签仍按面板</source>
+        <translation>Назначить отдельный пресет каждому файлу в очереди
+Пресет меняет только параметры кодирования/DSP; папка/формат вывода и теги берутся с панели</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>开始转换</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать конвертацию</translation>
     </message>
     <message>
         <source>Zuvo Audio Suite — 音频转换工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuvo Audio Suite — конвертер аудио</translation>
     </message>
     <message>
         <source>设置输出文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной файл задан: %1</translation>
     </message>
     <message>
         <source>目录中没有音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>В папке нет аудиофайлов</translation>
     </message>
     <message>
         <source>转换进行中, 不能修改文件列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Нельзя изменять список файлов во время конвертации</translation>
     </message>
     <message>
         <source>找到 ZuvoEngine (音频转换引擎): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Найден ZuvoEngine (движок конвертации аудио): %1</translation>
     </message>
     <message>
         <source>警告: 未找到 ZuvoEngine — 转换功能不可用。请将其放在程序同目录、或加入 PATH。</source>
-        <translation type="unfinished"></translation>
+        <translation>Внимание: ZuvoEngine не найден — конвертация недоступна. Поместите его в папку программы или добавьте в PATH.</translation>
     </message>
     <message>
         <source>未找到 ZuvoEngine</source>
-        <translation type="unfinished"></translation>
+        <translation>ZuvoEngine не найден</translation>
     </message>
     <message>
         <source>已添加 %1 个文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавлено файлов: %1</translation>
     </message>
     <message>
         <source>已跳过 %1 个重复文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Пропущено дубликатов: %1</translation>
     </message>
     <message>
         <source>转换完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Конвертация завершена</translation>
     </message>
     <message>
         <source>转换 %1 个文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Конвертировано файлов: %1</translation>
     </message>
     <message>
         <source>转换 %1 个文件, %2 个失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Конвертировано файлов: %1, с ошибкой: %2</translation>
     </message>
     <message>
         <source>打开输出目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть папку вывода</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>AUTORUN 参数不完整</source>
-        <translation type="unfinished"></translation>
+        <translation>Неполные аргументы AUTORUN</translation>
     </message>
     <message>
         <source>AUTORUN: %1 个输入 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN: входных файлов %1 → %2</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной формат</translation>
     </message>
     <message>
         <source>逆向模式 (PDM2PCM) 的输出必须是 .wav 或 .flac</source>
-        <translation type="unfinished"></translation>
+        <translation>В обратном режиме (PDM2PCM) вывод должен быть .wav или .flac</translation>
     </message>
     <message>
         <source>DXD 输出只支持 .wav / .w64 / .flac (引擎按扩展名认容器)</source>
-        <translation type="unfinished"></translation>
+        <translation>Вывод DXD поддерживает только .wav / .w64 / .flac (движок определяет контейнер по расширению)</translation>
     </message>
     <message>
         <source>错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка</translation>
     </message>
     <message>
         <source>错误: DST 压缩仅支持 DFF 格式输出
 请把输出格式/扩展名改为 .dff 或禁用 DST 压缩</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка: сжатие DST поддерживает только вывод в DFF
+Смените выходной формат/расширение на .dff или отключите сжатие DST</translation>
     </message>
     <message>
         <source>输出文件必须是 .dsf 或 .dff 格式</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной файл должен быть в формате .dsf или .dff</translation>
     </message>
     <message>
         <source>转换中</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт конвертация</translation>
     </message>
     <message>
         <source>已有转换任务正在进行中, 请等待完成。</source>
-        <translation type="unfinished"></translation>
+        <translation>Конвертация уже выполняется, дождитесь её завершения.</translation>
     </message>
     <message>
         <source>输入文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Входные файлы</translation>
     </message>
     <message>
         <source>请选择输入文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите входные файлы</translation>
     </message>
     <message>
         <source>元数据</source>
-        <translation type="unfinished"></translation>
+        <translation>Метаданные</translation>
     </message>
     <message>
         <source>输出 .dff 必须填「艺术家」和「标题」两个值
 (它们是 DFF 的 COMT 标签; 必填项, 不填不开始转换)</source>
-        <translation type="unfinished"></translation>
+        <translation>Для вывода в .dff нужно заполнить «Исполнитель» и «Название»
+(они образуют тег COMT в DFF; поля обязательны — без них конвертация не начнётся)</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Отводы</translation>
     </message>
     <message>
         <source>Taps 必须是偶数且不小于 512 (0 = 用引擎默认值)</source>
-        <translation type="unfinished"></translation>
+        <translation>Число отводов должно быть чётным и не меньше 512 (0 = по умолчанию движка)</translation>
     </message>
     <message>
         <source>过渡带</source>
-        <translation type="unfinished"></translation>
+        <translation>Переходная полоса</translation>
     </message>
     <message>
         <source>阻带截止必须大于通带截止 (否则过渡带为零/负, 引擎会拒绝)</source>
-        <translation type="unfinished"></translation>
+        <translation>Граница полосы заграждения должна быть выше границы полосы пропускания (иначе переходная полоса нулевая/отрицательная и движок её отклонит)</translation>
     </message>
     <message>
         <source>输出目录</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка вывода</translation>
     </message>
     <message>
         <source>无法创建输出目录:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удаётся создать папку вывода:
+%1</translation>
     </message>
     <message>
         <source>输出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выходной файл</translation>
     </message>
     <message>
         <source>请选择输出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите выходной файл</translation>
     </message>
     <message>
         <source>噪声本底分析</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ шумового порога</translation>
     </message>
     <message>
         <source>噪声本底分析需要勾选 PDF 报告才能生效
 请启用「PDF 报告」开关</source>
-        <translation type="unfinished"></translation>
+        <translation>Анализ шумового порога работает только с включённым PDF-отчётом
+Включите параметр «PDF-отчёт»</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>Эквалайзер</translation>
     </message>
     <message>
         <source>启用了均衡器但没有有效频段
 请添加至少一个频段 (中心频率 &gt; 0), 或禁用均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>Эквалайзер включён, но нет ни одной действующей полосы
+Добавьте хотя бы одну полосу (центральная частота &gt; 0) или отключите эквалайзер</translation>
     </message>
     <message>
         <source>引擎缺失</source>
-        <translation type="unfinished"></translation>
+        <translation>Движок не найден</translation>
     </message>
     <message>
         <source>未找到 ZuvoEngine。请将其放在程序同目录、或加入 PATH,
 也可设置环境变量 ZUVO_ENGINE_BIN 指向其完整路径。</source>
-        <translation type="unfinished"></translation>
+        <translation>ZuvoEngine не найден. Поместите его в папку программы или добавьте в PATH,
+либо укажите полный путь в переменной окружения ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>均衡器未启用</source>
+        <translation>Эквалайзер не включён</translation>
+    </message>
+    <message>
+        <source>基本参数</source>
+        <translation>Основные</translation>
+    </message>
+    <message>
+        <source>滤波</source>
+        <translation>Фильтр</translation>
+    </message>
+    <message>
+        <source>空间与音调</source>
+        <translation>Пространство и тембр</translation>
+    </message>
+    <message>
+        <source>声道</source>
+        <translation>Каналы</translation>
+    </message>
+    <message>
+        <source>高级</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message>
+        <source>启用 DST 压缩模式</source>
+        <translation>Режим сжатия DST включён</translation>
+    </message>
+    <message>
+        <source>禁用 DST 压缩模式</source>
+        <translation>Режим сжатия DST отключён</translation>
+    </message>
+    <message>
+        <source>DST 压缩</source>
+        <translation>Сжатие DST</translation>
+    </message>
+    <message>
+        <source>DST 压缩仅支持 DFF 格式
+输出格式将自动更改为 DFF</source>
+        <translation>Сжатие DST поддерживает только формат DFF
+Выходной формат будет автоматически изменён на DFF</translation>
+    </message>
+    <message>
+        <source>DST 压缩仅支持 DFF 格式
+输出文件将自动更改为 DFF 格式</source>
+        <translation>Сжатие DST поддерживает только формат DFF
+Выходной файл будет автоматически изменён на формат DFF</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能修改参数</source>
+        <translation>Нельзя изменять параметры во время конвертации</translation>
+    </message>
+    <message>
+        <source>已加载母带预设: %1</source>
+        <translation>Загружен пресет мастеринга: %1</translation>
+    </message>
+    <message>
+        <source>均衡器: %1 行无效 (需中心频率&gt;0) 已被跳过</source>
+        <translation>Эквалайзер: пропущено недопустимых строк: %1 (центральная частота должна быть &gt; 0)</translation>
+    </message>
+    <message>
+        <source>注意: 无法向引擎查询它不支持的选项, 直接开始转换</source>
+        <translation>Примечание: не удалось запросить у движка неподдерживаемые параметры; конвертация начинается</translation>
+    </message>
+    <message>
+        <source>转换未开始: 当前引擎构建不支持这些已选择的选项: %1</source>
+        <translation>Конвертация не начата: текущая сборка движка не поддерживает выбранные параметры: %1</translation>
+    </message>
+    <message>
+        <source>引擎不支持的选项</source>
+        <translation>Параметры, не поддерживаемые движком</translation>
+    </message>
+    <message>
+        <source>当前引擎构建不支持下列已选择的选项, 转换不会开始:
+%1
+
+请在参数页关闭它们后再开始 (预设里可以保留)。</source>
+        <translation>Текущая сборка движка не поддерживает следующие выбранные параметры, поэтому конвертация не начнётся:
+%1
+
+Отключите их на страницах параметров и начните заново (в пресетах их можно оставить).</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能修改预设</source>
+        <translation>Нельзя изменять пресеты во время конвертации</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能改逐轨预设。</source>
+        <translation>Во время конвертации нельзя менять пресеты дорожек.</translation>
+    </message>
+    <message>
+        <source>请先添加输入文件</source>
+        <translation>Сначала добавьте входные файлы</translation>
+    </message>
+    <message>
+        <source>逐轨预设: 已全部改回「用当前参数」</source>
+        <translation>Пресеты дорожек: все возвращены к «текущим параметрам»</translation>
+    </message>
+    <message>
+        <source>逐轨预设: %1 个文件各用一套</source>
+        <translation>Пресеты дорожек: свой пресет у файлов: %1</translation>
+    </message>
+    <message>
+        <source>转换进行中, 不能预览</source>
+        <translation>Нельзя просматривать во время конвертации</translation>
+    </message>
+    <message>
+        <source>请先添加文件</source>
+        <translation>Сначала добавьте файлы</translation>
+    </message>
+    <message>
+        <source>没有可预览的文件</source>
+        <translation>Нет файлов для просмотра</translation>
+    </message>
+    <message>
+        <source>单环 (NS, --order 9)</source>
+        <translation>Одна петля (NS, --order 9)</translation>
+    </message>
+    <message>
+        <source>古典</source>
+        <translation>Классика</translation>
+    </message>
+    <message>
+        <source>古典: DSD-256, 131072 taps, 高带宽</source>
+        <translation>Классика: DSD-256, 131072 taps, широкая полоса</translation>
+    </message>
+    <message>
+        <source>流行</source>
+        <translation>Поп</translation>
+    </message>
+    <message>
+        <source>流行: DSD-128, 65536 taps</source>
+        <translation>Поп: DSD-128, 65536 taps</translation>
+    </message>
+    <message>
+        <source>爵士</source>
+        <translation>Джаз</translation>
+    </message>
+    <message>
+        <source>爵士: DSD-128, 65536 taps</source>
+        <translation>Джаз: DSD-128, 65536 taps</translation>
+    </message>
+    <message>
+        <source>DSD 采样率:</source>
+        <translation>Частота дискретизации DSD:</translation>
+    </message>
+    <message>
+        <source>Taps 数 (0=引擎默认):</source>
+        <translation>Отводы (0=по умолчанию):</translation>
+    </message>
+    <message>
+        <source>SOS cascade + error feedback, NS15 profile (引擎默认): 实测带内噪声比单环 NS9 低 11.4 dB</source>
+        <translation>Каскад SOS + обратная связь по ошибке, профиль NS15 (по умолчанию движка): измеренный внутриполосный шум на 11,4 dB ниже, чем у одной петли NS9</translation>
+    </message>
+    <message>
+        <source>Chebyshev 多项式压缩 (可与 MASH 叠加)</source>
+        <translation>Полиномиальное сжатие Чебышёва (совместимо с MASH)</translation>
+    </message>
+    <message>
+        <source>调制器:</source>
+        <translation>Модулятор:</translation>
+    </message>
+    <message>
+        <source>母带预设:</source>
+        <translation>Пресеты мастеринга:</translation>
+    </message>
+    <message>
+        <source>预设管理器…</source>
+        <translation>Менеджер пресетов…</translation>
+    </message>
+    <message>
+        <source>DST 压缩 (仅 .dff 输出)</source>
+        <translation>Сжатие DST (только вывод .dff)</translation>
+    </message>
+    <message>
+        <source>DXD 输出 (高解析 PCM)</source>
+        <translation>Вывод DXD (PCM высокого разрешения)</translation>
+    </message>
+    <message>
+        <source>逆向模式 (PDM2PCM)</source>
+        <translation>Обратный режим (PDM2PCM)</translation>
+    </message>
+    <message>
+        <source>输入 DSD(DSF/DFF), 输出 PCM/WAV —— 与 PCM→PDM 无关</source>
+        <translation>Вход DSD (DSF/DFF), выход PCM/WAV — не связано с PCM→PDM</translation>
+    </message>
+    <message>
+        <source>DST 压缩等级 (0=关闭):</source>
+        <translation>Уровень сжатия DST (0=выкл.):</translation>
+    </message>
+    <message>
+        <source>高带宽模式</source>
+        <translation>Режим широкой полосы</translation>
+    </message>
+    <message>
+        <source>OpenCL 加速 (GPU)</source>
+        <translation>Ускорение OpenCL (GPU)</translation>
+    </message>
+    <message>
+        <source>当前引擎构建未编译 OpenCL 支持</source>
+        <translation>Текущая сборка движка скомпилирована без поддержки OpenCL</translation>
+    </message>
+    <message>
+        <source>添加 PDF 报告</source>
+        <translation>Добавить PDF-отчёт</translation>
+    </message>
+    <message>
+        <source>当前引擎构建未编译 PDF 报告 (需要 rsvg+cairo)</source>
+        <translation>Текущая сборка движка не поддерживает PDF-отчёты (нужны rsvg+cairo)</translation>
+    </message>
+    <message>
+        <source>分析报告 (--report)</source>
+        <translation>Отчёт анализа (--report)</translation>
+    </message>
+    <message>
+        <source>噪声本底分析 (需 PDF 报告)</source>
+        <translation>Анализ шумового порога (нужен PDF-отчёт)</translation>
+    </message>
+    <message>
+        <source>降噪: 关</source>
+        <translation>Шумоподавление: выкл.</translation>
+    </message>
+    <message>
+        <source>降噪: 轻 (-12dB 地板, 最保真)</source>
+        <translation>Шумоподавление: слабое (порог -12dB, максимальная точность)</translation>
+    </message>
+    <message>
+        <source>降噪: 标准 (-18dB 地板)</source>
+        <translation>Шумоподавление: стандартное (порог -18dB)</translation>
+    </message>
+    <message>
+        <source>降噪: 强 (感知加权地板, 最深)</source>
+        <translation>Шумоподавление: сильное (психоакустически взвешенный порог, максимальное)</translation>
+    </message>
+    <message>
+        <source>保留乐器泛音 (降噪时保住泛音与泛音列)</source>
+        <translation>Сохранять гармоники инструментов (при шумоподавлении сохраняются гармоники и обертоновый ряд)</translation>
+    </message>
+    <message>
+        <source>报告里加峰值 (--peak)</source>
+        <translation>Добавить пик в отчёт (--peak)</translation>
+    </message>
+    <message>
+        <source>报告里加 RMS (--rms)</source>
+        <translation>Добавить RMS в отчёт (--rms)</translation>
+    </message>
+    <message>
+        <source>报告里不要动态范围一节 (--no-dynamic-range)</source>
+        <translation>Без раздела динамического диапазона в отчёте (--no-dynamic-range)</translation>
+    </message>
+    <message>
+        <source>输出模式</source>
+        <translation>Режим вывода</translation>
+    </message>
+    <message>
+        <source>带宽、加速与报告</source>
+        <translation>Полоса, ускорение и отчёт</translation>
+    </message>
+    <message>
+        <source>降噪与报告内容</source>
+        <translation>Шумоподавление и содержимое отчёта</translation>
+    </message>
+    <message>
+        <source>噪声本底分析需要勾选 PDF 报告才能生效
+请启用「添加 PDF 报告」</source>
+        <translation>Анализ шумового порога работает только с включённым PDF-отчётом
+Включите «Добавить PDF-отчёт»</translation>
+    </message>
+    <message>
+        <source>声道设置</source>
+        <translation>Настройки каналов</translation>
+    </message>
+    <message>
+        <source>强制原始声道数</source>
+        <translation>Сохранить исходное число каналов</translation>
+    </message>
+    <message>
+        <source>四声道模式 (需重置声道数=4)</source>
+        <translation>Квадро-режим (требуется сброс числа каналов = 4)</translation>
+    </message>
+    <message>
+        <source>添加环绕声道</source>
+        <translation>Добавить каналы окружения</translation>
+    </message>
+    <message>
+        <source>声道交换</source>
+        <translation>Поменять каналы местами</translation>
+    </message>
+    <message>
+        <source>重置声道数 (0=不动):</source>
+        <translation>Сброс числа каналов (0=без изменений):</translation>
+    </message>
+    <message>
+        <source>规则</source>
+        <translation>Правила</translation>
+    </message>
+    <message>
+        <source>「强制原始声道数」优先: 勾选后重置声道数、四声道模式和添加环绕声道都不发给引擎。
+
+四声道模式需要重置声道数为 4; 勾选时会自动设为 4。
+
+「声道交换」交换前两个声道, 与其它选项可同时使用。</source>
+        <translation>«Сохранить исходное число каналов» имеет приоритет: если включено, сброс числа каналов, квадро-режим и добавление каналов окружения не передаются движку.
+
+Квадро-режиму нужен сброс числа каналов на 4; при включении значение 4 устанавливается автоматически.
+
+«Поменять каналы местами» меняет местами первые два канала и совместимо с остальными параметрами.</translation>
+    </message>
+    <message>
+        <source>四声道模式: 重置声道数已自动设为 4</source>
+        <translation>Квадро-режим: число каналов автоматически установлено на 4</translation>
+    </message>
+    <message>
+        <source>启用均衡器 (EQ)</source>
+        <translation>Включить эквалайзер (EQ)</translation>
+    </message>
+    <message>
+        <source>添加频段</source>
+        <translation>Добавить полосу</translation>
+    </message>
+    <message>
+        <source>移除选中</source>
+        <translation>Удалить выбранное</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>中心频率 (Hz)</source>
+        <translation>Центральная частота (Hz)</translation>
+    </message>
+    <message>
+        <source>增益 (dB)</source>
+        <translation>Усиление (dB)</translation>
+    </message>
+    <message>
+        <source>带宽</source>
+        <translation>Ширина полосы</translation>
+    </message>
+    <message>
+        <source>单位</source>
+        <translation>Единица</translation>
+    </message>
+    <message>
+        <source>预览按 44.1 kHz 估算 — 引擎槽位: 首段低架, 满 10 段时末段高架</source>
+        <translation>Предпросмотр рассчитан для 44,1 kHz — слоты движка: первая полоса — низкочастотный шельф; при всех 10 полосах последняя — высокочастотный шельф</translation>
+    </message>
+    <message>
+        <source>启用均衡器 (--eq 频段 f,g,bw{单位})</source>
+        <translation>Эквалайзер включён (--eq полоса f,g,bw{единица})</translation>
+    </message>
+    <message>
+        <source>禁用均衡器</source>
+        <translation>Эквалайзер отключён</translation>
+    </message>
+    <message>
+        <source>窗口法 (Window Method)</source>
+        <translation>Оконный метод (Window Method)</translation>
+    </message>
+    <message>
+        <source>最小相位 (Min-Phase)</source>
+        <translation>Минимальная фаза (Min-Phase)</translation>
+    </message>
+    <message>
+        <source>应用预失真处理</source>
+        <translation>Применить предыскажение</translation>
+    </message>
+    <message>
+        <source>算法:</source>
+        <translation>Алгоритм:</translation>
+    </message>
+    <message>
+        <source>滤波类型:</source>
+        <translation>Тип фильтра:</translation>
+    </message>
+    <message>
+        <source>窗口法参数</source>
+        <translation>Параметры оконного метода</translation>
+    </message>
+    <message>
+        <source>窗口类型:</source>
+        <translation>Тип окна:</translation>
+    </message>
+    <message>
+        <source>Remez 算法参数</source>
+        <translation>Параметры алгоритма Remez</translation>
+    </message>
+    <message>
+        <source>最大迭代次数:</source>
+        <translation>Макс. число итераций:</translation>
+    </message>
+    <message>
+        <source>网格密度:</source>
+        <translation>Плотность сетки:</translation>
+    </message>
+    <message>
+        <source>停止带衰减 (A_stop)</source>
+        <translation>Затухание в полосе заграждения (A_stop)</translation>
+    </message>
+    <message>
+        <source>0=不发</source>
+        <translation>0=не передавать</translation>
+    </message>
+    <message>
+        <source>停止带衰减 (dB):</source>
+        <translation>Затухание в полосе заграждения (dB):</translation>
+    </message>
+    <message>
+        <source>过渡带 (截止频率)</source>
+        <translation>Переходная полоса (частоты среза)</translation>
+    </message>
+    <message>
+        <source>通带截止 (Hz):</source>
+        <translation>Граница полосы пропускания (Hz):</translation>
+    </message>
+    <message>
+        <source>阻带截止 (Hz):</source>
+        <translation>Граница полосы заграждения (Hz):</translation>
+    </message>
+    <message>
+        <source>增益 (ABS)</source>
+        <translation>Усиление (ABS)</translation>
+    </message>
+    <message>
+        <source>绝对值增益:</source>
+        <translation>Абсолютное усиление:</translation>
+    </message>
+    <message>
+        <source>HRTF 空间音频</source>
+        <translation>Пространственный звук HRTF</translation>
+    </message>
+    <message>
+        <source>启用 HRTF 空间音频 (--hrtf)</source>
+        <translation>Включить пространственный звук HRTF (--hrtf)</translation>
+    </message>
+    <message>
+        <source>启用 HRTF 空间音频 (--hrtf &lt;mono|ms|stereo&gt;)</source>
+        <translation>Пространственный звук HRTF включён (--hrtf &lt;mono|ms|stereo&gt;)</translation>
+    </message>
+    <message>
+        <source>禁用 HRTF 空间音频</source>
+        <translation>Пространственный звук HRTF отключён</translation>
+    </message>
+    <message>
+        <source>模式:</source>
+        <translation>Режим:</translation>
+    </message>
+    <message>
+        <source>干湿比 (dry/wet):</source>
+        <translation>Соотношение dry/wet:</translation>
+    </message>
+    <message>
+        <source>侧向扩散比:</source>
+        <translation>Боковое рассеяние:</translation>
+    </message>
+    <message>
+        <source>深度 (+1前 / 0耳位 / -1后):</source>
+        <translation>Глубина (+1 спереди / 0 у ушей / -1 сзади):</translation>
+    </message>
+    <message>
+        <source>使用引擎内置 HRIR; 不提供自定义 .sofa 文件</source>
+        <translation>Используется встроенный HRIR движка; пользовательские файлы .sofa не поддерживаются</translation>
+    </message>
+    <message>
+        <source>环绕</source>
+        <translation>Окружение</translation>
+    </message>
+    <message>
+        <source>启用环绕 (--surround)</source>
+        <translation>Включить окружение (--surround)</translation>
+    </message>
+    <message>
+        <source>启用环绕 (--surround delayMs mix side balance)</source>
+        <translation>Окружение включено (--surround delayMs mix side balance)</translation>
+    </message>
+    <message>
+        <source>禁用环绕</source>
+        <translation>Окружение отключено</translation>
+    </message>
+    <message>
+        <source>侧向 (side)</source>
+        <translation>Бок (side)</translation>
+    </message>
+    <message>
+        <source>延迟 (ms):</source>
+        <translation>Задержка (ms):</translation>
+    </message>
+    <message>
+        <source>混合 (%):</source>
+        <translation>Микс (%):</translation>
+    </message>
+    <message>
+        <source>平衡 (-100~100, 0=不发):</source>
+        <translation>Баланс (-100~100, 0=не передавать):</translation>
+    </message>
+    <message>
+        <source>音调 (shelving)</source>
+        <translation>Тембр (шельфовые фильтры)</translation>
+    </message>
+    <message>
+        <source>低音 (dB):</source>
+        <translation>Низкие (dB):</translation>
+    </message>
+    <message>
+        <source>高音 (dB):</source>
+        <translation>Высокие (dB):</translation>
+    </message>
+    <message>
+        <source>EQ 前置衰减 (dB):</source>
+        <translation>Предварительное ослабление EQ (dB):</translation>
+    </message>
+    <message>
+        <source>启用 DSRE 数字频谱共振增强 (--dsre)</source>
+        <translation>Включить DSRE — цифровое усиление спектрального резонанса (--dsre)</translation>
+    </message>
+    <message>
+        <source>启用 DSRE (--dsre mix)</source>
+        <translation>DSRE включён (--dsre mix)</translation>
+    </message>
+    <message>
+        <source>禁用 DSRE</source>
+        <translation>DSRE отключён</translation>
+    </message>
+    <message>
+        <source>干湿比 (0=dry, 1=全效果):</source>
+        <translation>Dry/wet (0=dry, 1=полный эффект):</translation>
+    </message>
+</context>
+<context>
+    <name>PerTrackDialog</name>
+    <message>
+        <source>逐轨预设 (每个文件可各用一套)</source>
+        <translation>Пресеты дорожек (свой пресет для каждого файла)</translation>
+    </message>
+    <message>
+        <source>每行给一个文件挑一套预设; 「(用当前参数)」= 跟随主面板。
+预设只换编码/DSP 参数 —— 输出目录/输出格式与标签仍按主面板。</source>
+        <translation>Выберите пресет для каждого файла, по одной строке на файл; «(текущие параметры)» = как на главной панели.
+Пресет меняет только параметры кодирования/DSP — папка/формат вывода и теги берутся с главной панели.</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>预设</source>
+        <translation>Пресет</translation>
+    </message>
+    <message>
+        <source>(用当前参数)</source>
+        <translation>(текущие параметры)</translation>
+    </message>
+    <message>
+        <source>(预设目录里没有预设 —— 先在上面「母带预设」里保存一套)</source>
+        <translation>(в папке пресетов нет пресетов — сначала сохраните пресет в разделе «Пресеты мастеринга» выше)</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManagerDialog</name>
+    <message>
+        <source>预设管理器</source>
+        <translation>Менеджер пресетов</translation>
+    </message>
+    <message>
+        <source>预设为 JSON 文件 (与 GTK 版同目录同键名, 可互读)
+写入目录: %1</source>
+        <translation>Пресеты хранятся в файлах JSON (та же папка и имена ключей, что и в версии GTK, совместимы)
+Папка записи: %1</translation>
+    </message>
+    <message>
+        <source>加载选中</source>
+        <translation>Загрузить выбранный</translation>
+    </message>
+    <message>
+        <source>删除选中</source>
+        <translation>Удалить выбранный</translation>
+    </message>
+    <message>
+        <source>保存当前为…</source>
+        <translation>Сохранить текущие как…</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>预设</source>
+        <translation>Пресет</translation>
+    </message>
+    <message>
+        <source>无法读取: %1</source>
+        <translation>Не удаётся прочитать: %1</translation>
+    </message>
+    <message>
+        <source>预设文件解析失败: %1</source>
+        <translation>Не удалось разобрать файл пресета: %1</translation>
+    </message>
+    <message>
+        <source>预设含 %1 个本版未支持字段, 已忽略</source>
+        <translation>Полей пресета, не поддерживаемых этой версией: %1 — пропущены</translation>
+    </message>
+    <message>
+        <source>已加载预设: %1</source>
+        <translation>Пресет загружен: %1</translation>
+    </message>
+    <message>
+        <source>删除预设</source>
+        <translation>Удалить пресет</translation>
+    </message>
+    <message>
+        <source>确定删除预设 %1 ?</source>
+        <translation>Удалить пресет %1?</translation>
+    </message>
+    <message>
+        <source>删除失败: %1</source>
+        <translation>Не удалось удалить: %1</translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation>Сохранить как</translation>
+    </message>
+    <message>
+        <source>预设名称:</source>
+        <translation>Имя пресета:</translation>
+    </message>
+    <message>
+        <source>预设 %1 已存在, 覆盖?</source>
+        <translation>Пресет %1 уже существует. Перезаписать?</translation>
+    </message>
+    <message>
+        <source>预设名称无效: %1</source>
+        <translation>Недопустимое имя пресета: %1</translation>
+    </message>
+    <message>
+        <source>保存失败: %1</source>
+        <translation>Не удалось сохранить: %1</translation>
+    </message>
+    <message>
+        <source>已保存预设: %1</source>
+        <translation>Пресет сохранён: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetStore</name>
+    <message>
+        <source>名称为空</source>
+        <translation>Имя не задано</translation>
+    </message>
+    <message>
+        <source>名称不能包含 %1 或控制字符</source>
+        <translation>Имя не должно содержать %1 или управляющие символы</translation>
+    </message>
+    <message>
+        <source>名称不能以点结尾</source>
+        <translation>Имя не должно заканчиваться точкой</translation>
+    </message>
+    <message>
+        <source>名称 %1 是系统保留的设备名</source>
+        <translation>Имя %1 зарезервировано системой для устройства</translation>
+    </message>
+    <message>
+        <source>文件过大 (%1 字节)</source>
+        <translation>Файл слишком большой (%1 байт)</translation>
+    </message>
+    <message>
+        <source>顶层不是 JSON 对象</source>
+        <translation>Верхний уровень не является объектом JSON</translation>
     </message>
 </context>
 <context>
     <name>RunControlsPanel</name>
     <message>
         <source>开始转换</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать конвертацию</translation>
     </message>
     <message>
         <source>停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Стоп</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить журнал</translation>
     </message>
     <message>
         <source>详细日志 (--verbose)</source>
-        <translation type="unfinished"></translation>
+        <translation>Подробный журнал (--verbose)</translation>
     </message>
     <message>
         <source>保留引擎日志（退出不删）</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранять журнал движка (не удалять при выходе)</translation>
     </message>
     <message>
         <source>关（默认）：引擎日志写在系统临时目录里的一次性目录中，退出即清；
 开：写到 %1 下并保留，便于把日志发给厂商排障。</source>
-        <translation type="unfinished"></translation>
+        <translation>Выкл. (по умолчанию): журнал движка пишется во временную папку в системном каталоге временных файлов и удаляется при выходе;
+Вкл.: пишется в %1 и сохраняется, чтобы его можно было отправить разработчику для диагностики.</translation>
     </message>
     <message>
         <source>子进程: ZuvoEngine</source>
-        <translation type="unfinished"></translation>
+        <translation>Дочерний процесс: ZuvoEngine</translation>
     </message>
     <message>
         <source>GUI 通过 QProcess 调用同目录/环境变量指定的 ZuvoEngine</source>
-        <translation type="unfinished"></translation>
+        <translation>GUI запускает ZuvoEngine через QProcess из папки программы или по пути из переменной окружения</translation>
     </message>
 </context>
 <context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык</translation>
     </message>
     <message>
         <source>界面语言。切换后程序会重启一次以便整套界面换语言。</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык интерфейса. После смены программа один раз перезапустится, чтобы сменить язык всего интерфейса.</translation>
     </message>
     <message>
         <source>跟随系统</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в системе</translation>
     </message>
     <message>
         <source>界面语言已切换，程序将自动重启一次以生效。</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык интерфейса изменён. Программа автоматически перезапустится один раз, чтобы применить изменения.</translation>
+    </message>
+</context>
+<context>
+    <name>pv::PreviewDialog</name>
+    <message>
+        <source>预览: %1</source>
+        <translation>Просмотр: %1</translation>
+    </message>
+    <message>
+        <source>波形</source>
+        <translation>Волна</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Спектрограмма</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>%1 — %2 Hz / %3 ch, 预览 %4 s (上限 30 s)</source>
+        <translation>%1 — %2 Hz / %3 ch, просмотр %4 s (макс. 30 s)</translation>
+    </message>
+    <message>
+        <source>该格式 (%1) 预览待后续 — 目前仅支持 WAV (DSD 解码属后续里程碑)</source>
+        <translation>Просмотр этого формата (%1) пока недоступен — поддерживается только WAV (декодирование DSD запланировано на следующий этап)</translation>
+    </message>
+    <message>
+        <source>解码失败: %1</source>
+        <translation>Ошибка декодирования: %1</translation>
     </message>
 </context>
 </TS>

@@ -27,7 +27,9 @@ InputOutputPanel::InputOutputPanel(QWidget* parent)
     auto* clear = new QPushButton(tr("清空列表"), this);
     auto* preview = new QPushButton(tr("波形/频谱预览…"), this);
     preview->setObjectName(QStringLiteral("previewButton"));
-    for (QPushButton* b : {addFiles, addFolder, remove, clear, preview})
+    auto* perTrack = new QPushButton(tr("逐轨预设…"), this);
+    perTrack->setToolTip(tr("给队列里每个文件单独指定一套预设\n预设只换编码/DSP 参数; 输出目录/输出格式与标签仍按面板"));
+    for (QPushButton* b : {addFiles, addFolder, remove, clear, preview, perTrack})
         buttons->addWidget(b);
     buttons->addStretch(1);
     countLabel_ = new QLabel(this);
@@ -51,6 +53,7 @@ InputOutputPanel::InputOutputPanel(QWidget* parent)
     connect(remove, &QPushButton::clicked, this, &InputOutputPanel::removeRequested);
     connect(clear, &QPushButton::clicked, this, &InputOutputPanel::clearRequested);
     connect(preview, &QPushButton::clicked, this, &InputOutputPanel::previewRequested);
+    connect(perTrack, &QPushButton::clicked, this, &InputOutputPanel::perTrackRequested);
 }
 
 QWidget* InputOutputPanel::buildOutputRows()

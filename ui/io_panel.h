@@ -46,6 +46,7 @@ signals:
     void removeRequested();
     void clearRequested();
     void previewRequested();
+    void perTrackRequested();
     void outputFileChosen(const QString& path);
     // A folder was chosen but holds no audio file.
     void emptyFolderChosen();

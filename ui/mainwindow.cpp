@@ -74,6 +74,7 @@ void MainWindow::buildUi()
     statusBar();
 
     queue_ = new ConversionQueue(this);
+    connectPresets();
     connect(queue_, &ConversionQueue::logLine, this, &MainWindow::appendLog);
     connect(queue_, &ConversionQueue::progressChanged, run_->progress(), &QProgressBar::setValue);
     connect(queue_, &ConversionQueue::runningChanged, run_, &RunControlsPanel::setRunning);

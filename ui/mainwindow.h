@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "conversion_settings.h"
+#include "per_track_dialog.h"
 
 class AdvancedPage;
 class BasicPage;
@@ -47,6 +48,12 @@ public:
     void previewCurrentFile();
     void openPreview(const QString& path, bool spectrogram = false);
     bool runPreviewHook();
+
+    // Presets (mainwindow_presets.cpp): the manager, the per-track choice
+    // and what the queue asks when it reaches a file.
+    void openPresetManager();
+    void openPerTrackPresets();
+    const PerTrackAssignment& perTrackAssignment() const { return perTrack_; }
     // Record to controls (after a preset is loaded) and controls to record
     // (before a run or a preset save): the only two ways a record moves.
     void applySettings(const ConversionSettings& settings);
@@ -61,6 +68,7 @@ public:
     void showEqDemo();
 
 private:
+    void connectPresets();
     void buildUi();
     void locateEngine();
     void onPollTimer();
@@ -93,4 +101,5 @@ private:
     QString probeLogPath_;
     std::unique_ptr<QTemporaryDir> engineLogTempDir_;
     bool closeAfterAutorun_ = false;
+    PerTrackAssignment perTrack_;
 };

@@ -47,6 +47,7 @@ void MainWindow::buildPages()
     io_->setPcmOutputQuery([this] { return basic_->pcmOutputChosen(); });
 }
 
+
 void MainWindow::setParametersLocked(bool locked)
 {
     basic_->setLocked(locked);

@@ -97,6 +97,9 @@ QWidget* BasicPage::buildMasterRow()
         connect(button, &QPushButton::clicked, this, [this, preset] { emit masterPresetRequested(preset); });
         row->addWidget(button);
     }
+    auto* manager = new QPushButton(QCoreApplication::translate("MainWindow", "预设管理器…"), box);
+    connect(manager, &QPushButton::clicked, this, &BasicPage::presetManagerRequested);
+    row->addWidget(manager);
     row->addStretch(1);
     return box;
 }

@@ -46,6 +46,7 @@ signals:
     // The user switched DST on or off (not a programmatic change).
     void dstClicked(bool on);
     void masterPresetRequested(const MasterPreset& preset);
+    void presetManagerRequested();
 
 private:
     QWidget* buildRateAndModulator();

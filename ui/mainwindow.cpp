@@ -15,6 +15,7 @@
 #include "file_list_widget.h"
 #include "io_panel.h"
 #include "log_pane.h"
+#include "playback_controller.h"
 #include "run_controls.h"
 
 MainWindow::MainWindow(QWidget* parent)
@@ -38,6 +39,7 @@ MainWindow::~MainWindow()
 {
     setArgNoteSink(nullptr);
     queue_->shutDown();
+    shutDownPlayback();
     // The queue (and with it the conversion session) goes last, with the window's children.
 }
 
@@ -49,6 +51,7 @@ void MainWindow::buildUi()
     run_ = new RunControlsPanel(central);
     layout->addWidget(io_, 0);
     layout->addWidget(run_, 1);
+    layout->addWidget(createPlayPage(central), 0); // PLAY PAGE: belongs in the main tab widget at index 5
     setCentralWidget(central);
     statusBar();
 
@@ -126,4 +129,5 @@ void MainWindow::onPollTimer()
     // Sessions report from their own threads into inboxes; this is where the
     // GUI thread picks their news up.
     queue_->poll();
+    playback_->poll();
 }

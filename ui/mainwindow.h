@@ -7,6 +7,8 @@
 
 class ConversionQueue;
 class InputOutputPanel;
+class PlaybackController;
+class PlayPage;
 class QTemporaryDir;
 class QTimer;
 class RunControlsPanel;
@@ -32,8 +34,16 @@ public:
     void startConversion();
     void stopConversion();
 
+    // Playback (mainwindow_playback.cpp).
+    void startPlayback();
+    void stopPlayback();
+    // ZUVO_AI_PLAYTEST: true when this start-up hook was the one to run.
+    bool runPlaytestHook();
+
 private:
     void buildUi();
+    QWidget* createPlayPage(QWidget* parent);
+    void shutDownPlayback();
     void locateEngine();
     void onPollTimer();
     ConversionSettings collectSettings();
@@ -46,6 +56,8 @@ private:
     RunControlsPanel* run_ = nullptr;
     ConversionQueue* queue_ = nullptr;
     QTimer* pollTimer_ = nullptr;
+    PlayPage* playPage_ = nullptr;
+    PlaybackController* playback_ = nullptr;
     ConversionSettings settings_;
     QString enginePath_;
     QString engineLogPath_;

@@ -78,7 +78,8 @@ public:
             n = padded;
         }
         emit(n, out);
-        return n < kDsdChunkBytes ? finishWith(out, 0) : 1;
+        // A short piece may be the end or a cut file: the next read tells.
+        return 1;
     }
 
 private:

@@ -9,13 +9,9 @@
 #include "player_args.h"
 #include "session_inbox.h"
 
-namespace {
-
 // The playback texts belong to the main window's translation context.
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("MainWindow", text);
-}
+
+namespace {
 
 bool childProcessesForced()
 {
@@ -53,26 +49,28 @@ void PlaybackController::discardSession()
 void PlaybackController::startPlayback(const QString& fileField, const QString& device, bool stream)
 {
     if (playing_) {
-        log(tr("播放正在进行中, 请先停止当前播放"));
+        log(QCoreApplication::translate("MainWindow", "播放正在进行中, 请先停止当前播放"));
         return;
     }
     const QString file = fileField.trimmed();
     if (file.isEmpty() || !QFileInfo(file).isFile()) {
-        logError(tr("错误: 播放文件不存在或无法读取: %1").arg(file.isEmpty() ? tr("(未设置输出文件)") : file));
+        logError(QCoreApplication::translate("MainWindow", "错误: 播放文件不存在或无法读取: %1")
+                     .arg(file.isEmpty() ? QCoreApplication::translate("MainWindow", "(未设置输出文件)") : file));
         return;
     }
     QString program = findPlayer();
     if (program.isEmpty()) {
         if (childProcessesForced()) {
-            logError(tr("错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)"));
+            logError(QCoreApplication::translate(
+                "MainWindow", "错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)"));
             return;
         }
         // In process the program is only argv[0] of the library call.
         program = QCoreApplication::applicationFilePath();
     }
     const QList<QString> args = buildPlayerArgs(file, device.trimmed(), stream);
-    log(tr("启动播放器: %1 %2").arg(program, quotedArgs(args)));
-    log(tr("开始播放: %1").arg(file));
+    log(QCoreApplication::translate("MainWindow", "启动播放器: %1 %2").arg(program, quotedArgs(args)));
+    log(QCoreApplication::translate("MainWindow", "开始播放: %1").arg(file));
 
     ++generation_;
     setPlaying(true);
@@ -81,10 +79,12 @@ void PlaybackController::startPlayback(const QString& fileField, const QString& 
     discardSession();
     session_ = createPlayerSession(this);
     inbox_->attach(*session_);
-    log(tr("试听会话: %1").arg(session_->isInProcess() ? tr("进程内(直接调库)") : tr("子进程")));
+    log(QCoreApplication::translate("MainWindow", "试听会话: %1")
+            .arg(session_->isInProcess() ? QCoreApplication::translate("MainWindow", "进程内(直接调库)")
+                                         : QCoreApplication::translate("MainWindow", "子进程")));
 
     if (session_->start(program, args) < 0) {
-        logError(tr("错误: 无法启动播放器 — %1").arg(session_->errorString()));
+        logError(QCoreApplication::translate("MainWindow", "错误: 无法启动播放器 — %1").arg(session_->errorString()));
         discardSession();
         setPlaying(false);
     }
@@ -123,27 +123,27 @@ void PlaybackController::drain()
     discardSession();
     setPlaying(false);
     if (!crashed && exitCode == 0)
-        log(tr("播放完成"));
+        log(QCoreApplication::translate("MainWindow", "播放完成"));
     else if (!crashed && exitCode == 3)
-        log(tr("播放已停止")); // the player's answer to "stop"
+        log(QCoreApplication::translate("MainWindow", "播放已停止")); // the player's answer to "stop"
     else
-        logError(tr("播放器异常退出, 代码: %1").arg(exitCode));
+        logError(QCoreApplication::translate("MainWindow", "播放器异常退出, 代码: %1").arg(exitCode));
 }
 
 void PlaybackController::stopPlayback()
 {
     if (!playing_) {
-        log(tr("当前没有播放任务"));
+        log(QCoreApplication::translate("MainWindow", "当前没有播放任务"));
         return;
     }
-    log(tr("正在停止播放器…"));
+    log(QCoreApplication::translate("MainWindow", "正在停止播放器…"));
     if (!session_ || !session_->isRunning()) {
         discardSession();
         setPlaying(false);
         return;
     }
     session_->writeLine(QStringLiteral("stop"), nullptr);
-    log(tr("[控制] %1").arg(QStringLiteral("stop")));
+    log(QCoreApplication::translate("MainWindow", "[控制] %1").arg(QStringLiteral("stop")));
     const quint32 generation = generation_;
     QTimer::singleShot(kStopGraceMs, this, [this, generation] { onStopGraceExpired(generation); });
 }
@@ -154,10 +154,12 @@ void PlaybackController::onStopGraceExpired(quint32 generation)
         return;
     const int seconds = kStopGraceMs / 1000;
     if (!session_->canKill()) {
-        logError(tr("播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)").arg(seconds));
+        logError(
+            QCoreApplication::translate("MainWindow", "播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)")
+                .arg(seconds));
         return;
     }
-    logError(tr("播放器未在 %1 秒内完成收尾, 强制结束").arg(seconds));
+    logError(QCoreApplication::translate("MainWindow", "播放器未在 %1 秒内完成收尾, 强制结束").arg(seconds));
     session_->terminate();
     QTimer::singleShot(kKillDelayMs, this, [this, generation] { onKillDelayExpired(generation); });
 }
@@ -166,7 +168,7 @@ void PlaybackController::onKillDelayExpired(quint32 generation)
 {
     if (generation != generation_ || !session_ || !session_->isRunning())
         return;
-    logError(tr("仍无响应, 强制结束播放器"));
+    logError(QCoreApplication::translate("MainWindow", "仍无响应, 强制结束播放器"));
     session_->kill();
 }
 

@@ -4,7 +4,7 @@
 
 QList<QString> buildPlayerArgs(const QString& file, const QString& device, bool stream)
 {
-    QList<QString> args{QStringLiteral("-i"), file};
+    QList<QString> args { QStringLiteral("-i"), file };
     if (stream)
         args << QStringLiteral("-stream");
     if (!device.trimmed().isEmpty())
@@ -22,7 +22,8 @@ QString quotedArgs(const QList<QString>& args)
 
 bool parsePlayerPosition(const QString& line, double* position, double* duration)
 {
-    static const QRegularExpression re(QStringLiteral("^\\[PROGRESS\\] pos=(\\d+(?:\\.\\d+)?) dur=(\\d+(?:\\.\\d+)?)\\s*$"));
+    static const QRegularExpression re(
+        QStringLiteral("^\\[PROGRESS\\] pos=(\\d+(?:\\.\\d+)?) dur=(\\d+(?:\\.\\d+)?)\\s*$"));
     const QRegularExpressionMatch m = re.match(line);
     if (!m.hasMatch())
         return false;

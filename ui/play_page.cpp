@@ -1,12 +1,15 @@
 #include "play_page.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+// The page's texts belong to the main window's translation context.
 
 namespace {
 
@@ -25,19 +28,20 @@ PlayPage::PlayPage(QWidget* parent)
     auto* form = new QFormLayout;
     device_ = new QLineEdit(this);
     device_->setPlaceholderText(QStringLiteral("hw:DS1"));
-    device_->setToolTip(tr("设备名直接传给 ZuvoPlayer -dev"));
-    form->addRow(tr("DAC 设备:"), device_);
+    device_->setToolTip(QCoreApplication::translate("MainWindow", "设备名直接传给 ZuvoPlayer -dev"));
+    form->addRow(QCoreApplication::translate("MainWindow", "DAC 设备:"), device_);
     layout->addLayout(form);
 
-    stream_ = new QCheckBox(tr("流式播放模式 (-stream)"), this);
+    stream_ = new QCheckBox(QCoreApplication::translate("MainWindow", "流式播放模式 (-stream)"), this);
     layout->addWidget(stream_);
-    auto* note = new QLabel(tr("播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)"), this);
+    auto* note = new QLabel(
+        QCoreApplication::translate("MainWindow", "播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)"), this);
     note->setWordWrap(true);
     layout->addWidget(note);
 
     auto* buttons = new QHBoxLayout;
-    play_ = new QPushButton(tr("播放"), this);
-    stop_ = new QPushButton(tr("停止播放"), this);
+    play_ = new QPushButton(QCoreApplication::translate("MainWindow", "播放"), this);
+    stop_ = new QPushButton(QCoreApplication::translate("MainWindow", "停止播放"), this);
     position_ = new QLabel(QStringLiteral("—"), this);
     buttons->addWidget(play_);
     buttons->addWidget(stop_);

@@ -145,7 +145,7 @@ void PlaybackController::stopPlayback()
     session_->writeLine(QStringLiteral("stop"), nullptr);
     log(QCoreApplication::translate("MainWindow", "[控制] %1").arg(QStringLiteral("stop")));
     const quint32 generation = generation_;
-    QTimer::singleShot(kStopGraceMs, this, [this, generation] { onStopGraceExpired(generation); });
+    QTimer::singleShot(kStopGraceMs, Qt::PreciseTimer, this, [this, generation] { onStopGraceExpired(generation); });
 }
 
 void PlaybackController::onStopGraceExpired(quint32 generation)
@@ -161,7 +161,7 @@ void PlaybackController::onStopGraceExpired(quint32 generation)
     }
     logError(QCoreApplication::translate("MainWindow", "播放器未在 %1 秒内完成收尾, 强制结束").arg(seconds));
     session_->terminate();
-    QTimer::singleShot(kKillDelayMs, this, [this, generation] { onKillDelayExpired(generation); });
+    QTimer::singleShot(kKillDelayMs, Qt::PreciseTimer, this, [this, generation] { onKillDelayExpired(generation); });
 }
 
 void PlaybackController::onKillDelayExpired(quint32 generation)

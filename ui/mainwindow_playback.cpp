@@ -47,9 +47,9 @@ bool MainWindow::runPlaytestHook()
         return true;
     }
     io_->setOutputFile(file);
-    QTimer::singleShot(500, this, &MainWindow::startPlayback);
+    QTimer::singleShot(500, Qt::PreciseTimer, this, &MainWindow::startPlayback);
     if (stopAfterMs > 0)
-        QTimer::singleShot(stopAfterMs + 500, this, &MainWindow::stopPlayback);
+        QTimer::singleShot(stopAfterMs + 500, Qt::PreciseTimer, this, &MainWindow::stopPlayback);
     return true;
 }
 

@@ -74,6 +74,7 @@ int main(int argc, char** argv)
     if (!shotPath.isEmpty())
         saveWindowScreenshot(window.get(), shotPath);
 
+    window->runPlaytestHook(); // start-up test hooks: at most one of the chain runs
     window->runPreviewHook();
     if (qEnvironmentVariableIsSet("ZUVO_GUI_DUMP_MOD")) {
         for (const QString& option : BasicPage::modulatorOptions()) {

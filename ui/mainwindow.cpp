@@ -18,6 +18,7 @@
 #include "io_panel.h"
 #include "log_pane.h"
 #include "parameter_tabs.h"
+#include "playback_controller.h"
 #include "run_controls.h"
 
 MainWindow::MainWindow(QWidget* parent)
@@ -42,6 +43,7 @@ MainWindow::~MainWindow()
 {
     setArgNoteSink(nullptr);
     queue_->shutDown();
+    shutDownPlayback();
     // The queue (and with it the conversion session) goes last, with the window's children.
 }
 
@@ -52,6 +54,7 @@ void MainWindow::buildUi()
     io_ = new InputOutputPanel(central);
     run_ = new RunControlsPanel(central);
     buildPages();
+    tabs_->insertPage(5, createPlayPage(tabs_), tr("播放"));
     // The pages get the room; the file list and the log shrink to a few
     // lines first (they scroll), and the splitter lets the user trade
     // between the three, so nothing overlaps in a small window.
@@ -152,4 +155,5 @@ void MainWindow::onPollTimer()
     // Sessions report from their own threads into inboxes; this is where the
     // GUI thread picks their news up.
     queue_->poll();
+    playback_->poll();
 }

@@ -18,6 +18,8 @@ class ParameterTabs;
 class SpatialTonePage;
 struct EqBand;
 struct MasterPreset;
+class PlaybackController;
+class PlayPage;
 class QTemporaryDir;
 class QTimer;
 class RunControlsPanel;
@@ -66,10 +68,17 @@ public:
     ParameterTabs* parameterTabs() const { return tabs_; }
     // Equaliser demonstration: its page, the switch on, three bands.
     void showEqDemo();
+    // Playback (mainwindow_playback.cpp).
+    void startPlayback();
+    void stopPlayback();
+    // ZUVO_AI_PLAYTEST: true when this start-up hook was the one to run.
+    bool runPlaytestHook();
 
 private:
     void connectPresets();
     void buildUi();
+    QWidget* createPlayPage(QWidget* parent);
+    void shutDownPlayback();
     void locateEngine();
     void onPollTimer();
     void buildPages();
@@ -95,6 +104,8 @@ private:
     EngineCapabilityProbe* capabilities_ = nullptr;
     ConversionQueue* queue_ = nullptr;
     QTimer* pollTimer_ = nullptr;
+    PlayPage* playPage_ = nullptr;
+    PlaybackController* playback_ = nullptr;
     ConversionSettings settings_;
     QString enginePath_;
     QString engineLogPath_;

@@ -18,6 +18,11 @@ namespace zuvo {
 
 namespace {
 
+// How long the standard-input reader waits before it looks at its quit flag:
+// the listener's destructor joins it, so this is added to every run's exit
+// after "stop" (the player must answer within 200 ms).
+constexpr int kStdinPollMs = 20;
+
 bool parseAddress(const std::string& text, std::uintptr_t& out)
 {
     unsigned long long value = 0;
@@ -178,7 +183,7 @@ void ControlListener::start(LineHandler onLine)
         char chunk[512];
         while (!state->quit) {
             pollfd pfd{0, POLLIN, 0};
-            const int ready = ::poll(&pfd, 1, 100);
+            const int ready = ::poll(&pfd, 1, kStdinPollMs);
             if (ready < 0) {
                 if (errno == EINTR)
                     continue;

@@ -1,6 +1,7 @@
 #include "fake_engine.h"
 
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -152,6 +153,10 @@ int fake_engine_run(int argc, char** argv)
         } else if (cmd == "touch-output") {
             if (args.size() > 1)
                 std::ofstream(args.back(), std::ios::binary) << "partial";
+        } else if (cmd == "ignore-term") {
+#ifndef _WIN32
+            std::signal(SIGTERM, SIG_IGN);
+#endif
         } else if (cmd == "crash") {
             std::fflush(nullptr);
             std::abort();

@@ -16,5 +16,6 @@
 //   log TEXT              append a line to the --log-file path
 //   touch-output          create the output file (last argument)
 //   crash                 abort()
+//   ignore-term           ignore SIGTERM (a child that only a kill ends)
 //   exit N                exit code (default 0 at the end of the script)
 int fake_engine_run(int argc, char** argv);

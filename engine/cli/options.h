@@ -45,6 +45,8 @@ struct EngineOptions {
     dsp::ModulatorOptions modulator;
     std::optional<double> gain; // linear; absent = automatic
     bool predistortion = true;
+    bool dst = false;        // --dst: DST-compressed DSDIFF
+    int dstLevel = 5;        // --dst-compression 1..9; 0 turns --dst off
 
     // PCM outputs (reverse and DXD).
     bool flac = false;       // --format flac

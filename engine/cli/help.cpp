@@ -45,7 +45,7 @@ void printHelp(std::FILE* out, const char* version)
         "                         full-scale input stays stable (-7 dB with the default modulator)\n"
         "DST compression (DSDIFF output only):\n"
         "  --dst                  lossless DST-compressed .dff (frames that would not shrink are stored)\n"
-        "  --dst-compression N    1 (fastest) .. 9 (smallest), default 5; 0 writes plain DSD.\n"
+        "  --dst-compression N    1 (fastest, default) .. 9 (smallest); 0 writes plain DSD.\n"
         "                         Levels 1-5 set the prediction filter length (8, 16, 24, 32, 48 taps);\n"
         "                         6-9 use 64-128 taps and try 2 to 6 coefficient scalings per frame\n"
         "                         (level 9 also shorter filters) and keep the smallest\n"

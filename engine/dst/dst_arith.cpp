@@ -20,9 +20,12 @@ void ArithEncoder::finish(BitWriter& out)
     }
     for (std::uint32_t w : words_)
         out.put(w, 32);
-    const int n = static_cast<int>(kAcBits) + pending_;
-    for (int i = n - 1; i >= 0; --i)
-        out.putBit(static_cast<unsigned>((v >> i) & 1u));
+    int n = static_cast<int>(kAcBits) + pending_;
+    while (n > 32) {
+        n -= 32;
+        out.put(static_cast<std::uint32_t>(v >> n), 32);
+    }
+    out.put(static_cast<std::uint32_t>(v), n);
 }
 
 } // namespace zuvo::dst

@@ -27,24 +27,21 @@ public:
     {
         const std::uint32_t q = acOneShare(a_, p);
         const std::uint32_t h = a_ - q;
-        if (bit) {
-            low_ += h;
-            a_ = q;
-            if (low_ >> (kAcBits + pending_)) {
-                low_ &= (std::uint64_t{1} << (kAcBits + pending_)) - 1;
-                carry();
-            }
-        } else {
-            a_ = h;
+        // Without branches on the symbol: misses are too frequent to predict.
+        const std::uint32_t mask = 0u - (bit & 1u);
+        low_ += h & mask;
+        a_ = (q & mask) | (h & ~mask);
+        if (low_ >> (kAcBits + pending_)) [[unlikely]] {
+            low_ &= (std::uint64_t{1} << (kAcBits + pending_)) - 1;
+            carry();
         }
-        if (a_ < kAcHalf) {
-            const int n = __builtin_clz(a_) - (32 - static_cast<int>(kAcBits));
-            a_ <<= n;
-            low_ <<= n;
-            pending_ += n;
-            if (pending_ >= 32)
-                flushWord();
-        }
+        // a_ >= 1, so the shift is 0..11.
+        const int n = __builtin_clz(a_) - (32 - static_cast<int>(kAcBits));
+        a_ <<= n;
+        low_ <<= n;
+        pending_ += n;
+        if (pending_ >= 32)
+            flushWord();
     }
     // Ends the code: the value written is the lowest multiple of 2^-(pos+1)
     // inside the final interval; the decoder reads zeros after it.

@@ -12,24 +12,35 @@ public:
     // Appends the low `n` bits of `v` (n <= 32), most significant first.
     void put(std::uint32_t v, int n)
     {
-        for (int i = n - 1; i >= 0; --i)
-            putBit((v >> i) & 1u);
+        if (n == 0)
+            return;
+        acc_ = (acc_ << n) | (v & (n == 32 ? ~0u : ((1u << n) - 1u)));
+        held_ += n;
+        bits_ += static_cast<std::size_t>(n);
+        while (held_ >= 8) {
+            held_ -= 8;
+            bytes_.push_back(static_cast<std::uint8_t>(acc_ >> held_));
+        }
     }
-    void putBit(unsigned b)
-    {
-        if ((bits_ & 7) == 0)
-            bytes_.push_back(0);
-        if (b)
-            bytes_.back() |= static_cast<std::uint8_t>(0x80u >> (bits_ & 7));
-        ++bits_;
-    }
+    void putBit(unsigned b) { put(b & 1u, 1); }
     // Two's complement in `n` bits.
     void putSigned(int v, int n) { put(static_cast<std::uint32_t>(v) & ((1u << n) - 1u), n); }
     std::size_t bitCount() const { return bits_; }
-    std::vector<std::uint8_t>& bytes() { return bytes_; }
+    // The bytes written, the last one padded with zero bits.
+    std::vector<std::uint8_t>& bytes()
+    {
+        if (held_ > 0) {
+            bytes_.push_back(static_cast<std::uint8_t>(acc_ << (8 - held_)));
+            held_ = 0;
+            // Further puts would misalign; the frame is complete by now.
+        }
+        return bytes_;
+    }
 
 private:
     std::vector<std::uint8_t> bytes_;
+    std::uint64_t acc_ = 0;
+    int held_ = 0;
     std::size_t bits_ = 0;
 };
 

@@ -18,37 +18,73 @@ namespace {
 struct ChannelCode {
     std::vector<int> coefs;
     std::vector<int> probs;
-    std::vector<std::uint8_t> residual; // per bit: 1 where the prediction missed
-    std::vector<std::uint8_t> index;    // per bit: probability table entry
+    std::vector<std::uint8_t> symbol;   // per bit: table entry << 1 | 1 where the prediction missed
     double bits = 1e300;                // estimated size, header included
 };
 
-inline unsigned bitAt(const std::uint8_t* bytes, int i)
-{
-    return (bytes[i >> 3] >> (7 - (i & 7))) & 1u;
-}
-
 // One prediction pass: error counts per table entry, optionally the
 // per-bit residual and index for the arithmetic coder.
+// The table count is a template argument so that the sum unrolls.
+template <bool Keep, int Tables>
+void predictPassN(const std::uint8_t* bytes, int nbits, const PredictionTables& pt, std::uint32_t* ones,
+                  std::uint32_t* total, std::uint8_t* symbol)
+{
+    std::uint64_t h0 = kInitialHistory, h1 = kInitialHistory;
+    for (int i = 0; i < nbits; ++i) {
+        int p = 0;
+        for (int j = 0; j < Tables; ++j) {
+            const std::uint64_t h = j < 8 ? h0 >> (8 * j) : h1 >> (8 * (j - 8));
+            p += pt.t[static_cast<std::size_t>(j)][h & 255u];
+        }
+        const unsigned b = (bytes[i >> 3] >> (7 - (i & 7))) & 1u;
+        const unsigned miss = b ^ predictedBit(p);
+        const unsigned idx = probIndex(p, kMaxProbs);
+        if constexpr (!Keep) {
+            ones[idx] += miss;
+            total[idx] += 1;
+        } else {
+            symbol[i] = static_cast<std::uint8_t>(idx << 1 | miss);
+        }
+        if constexpr (Tables > 8)
+            h1 = (h1 << 1) | (h0 >> 63);
+        h0 = (h0 << 1) | b;
+    }
+}
+
 template <bool Keep>
 void predictPass(const std::uint8_t* bytes, int nbits, const PredictionTables& pt, std::array<std::uint32_t, kMaxProbs>& ones,
-                 std::array<std::uint32_t, kMaxProbs>& total, std::uint8_t* residual, std::uint8_t* index)
+                 std::array<std::uint32_t, kMaxProbs>& total, std::uint8_t* symbol)
 {
     ones.fill(0);
     total.fill(0);
-    std::uint64_t h0 = kInitialHistory, h1 = kInitialHistory;
-    for (int i = 0; i < nbits; ++i) {
-        const int p = pt.predict(h0, h1);
-        const unsigned b = bitAt(bytes, i);
-        const unsigned miss = b ^ predictedBit(p);
-        const unsigned idx = probIndex(p, kMaxProbs);
-        ones[idx] += miss;
-        total[idx] += 1;
-        if constexpr (Keep) {
-            residual[i] = static_cast<std::uint8_t>(miss);
-            index[i] = static_cast<std::uint8_t>(idx);
+    std::uint32_t* o = ones.data();
+    std::uint32_t* t = total.data();
+    switch (pt.tableCount) {
+#define ZUVO_DST_CASE(n) case n: predictPassN<Keep, n>(bytes, nbits, pt, o, t, symbol); break;
+        ZUVO_DST_CASE(1) ZUVO_DST_CASE(2) ZUVO_DST_CASE(3) ZUVO_DST_CASE(4) ZUVO_DST_CASE(5) ZUVO_DST_CASE(6)
+        ZUVO_DST_CASE(7) ZUVO_DST_CASE(8) ZUVO_DST_CASE(9) ZUVO_DST_CASE(10) ZUVO_DST_CASE(11) ZUVO_DST_CASE(12)
+        ZUVO_DST_CASE(13) ZUVO_DST_CASE(14) ZUVO_DST_CASE(15) ZUVO_DST_CASE(16)
+#undef ZUVO_DST_CASE
+    default: predictPassN<Keep, 16>(bytes, nbits, pt, o, t, symbol); break;
+    }
+    if constexpr (Keep) {
+        // Counting from the symbols, in four interleaved histograms, avoids
+        // the store-to-load chain of incrementing one counter bit after bit.
+        std::array<std::array<std::uint32_t, 2 * kMaxProbs>, 4> h{};
+        int i = 0;
+        for (; i + 4 <= nbits; i += 4) {
+            ++h[0][symbol[i]];
+            ++h[1][symbol[i + 1]];
+            ++h[2][symbol[i + 2]];
+            ++h[3][symbol[i + 3]];
         }
-        pushHistory(h0, h1, b);
+        for (; i < nbits; ++i)
+            ++h[0][symbol[i]];
+        for (std::size_t j = 0; j < static_cast<std::size_t>(kMaxProbs); ++j) {
+            const std::uint32_t hits = h[0][2 * j] + h[1][2 * j] + h[2][2 * j] + h[3][2 * j];
+            ones[j] = h[0][2 * j + 1] + h[1][2 * j + 1] + h[2][2 * j + 1] + h[3][2 * j + 1];
+            total[j] = hits + ones[j];
+        }
     }
 }
 
@@ -104,7 +140,7 @@ ChannelCode codeChannel(const std::uint8_t* bytes, int nbits, const LevelPlan& p
     if (trials.size() > 1) {
         for (std::size_t t = 0; t < trials.size(); ++t) {
             pt.build(trials[t].coefs);
-            predictPass<false>(bytes, nbits, pt, ones, total, nullptr, nullptr);
+            predictPass<false>(bytes, nbits, pt, ones, total, nullptr);
             std::vector<int> probs;
             const double bits = tableAndCost(ones, total, probs) + filterBits(trials[t].coefs);
             if (bits < best.bits) {
@@ -115,9 +151,8 @@ ChannelCode codeChannel(const std::uint8_t* bytes, int nbits, const LevelPlan& p
     }
     best.coefs = trials[bestTrial].coefs;
     pt.build(best.coefs);
-    best.residual.resize(static_cast<std::size_t>(nbits));
-    best.index.resize(static_cast<std::size_t>(nbits));
-    predictPass<true>(bytes, nbits, pt, ones, total, best.residual.data(), best.index.data());
+    best.symbol.resize(static_cast<std::size_t>(nbits));
+    predictPass<true>(bytes, nbits, pt, ones, total, best.symbol.data());
     best.bits = tableAndCost(ones, total, best.probs) + filterBits(best.coefs);
     return best;
 }
@@ -152,8 +187,16 @@ std::vector<std::uint8_t> storedFrame(const std::vector<const std::uint8_t*>& ch
     return out;
 }
 
-std::vector<std::uint8_t> encodeFrame(const std::vector<const std::uint8_t*>& channels, int frameBits, int level,
-                                      FrameStats* stats)
+namespace {
+
+// A frame up to its arithmetic code: the header, and the symbols to code in
+// order (bit by bit, channels interleaved), each probability << 1 | miss.
+struct PreparedFrame {
+    BitWriter header;
+    std::vector<std::uint16_t> symbols;
+};
+
+PreparedFrame prepare(const std::vector<const std::uint8_t*>& channels, int frameBits, int level)
 {
     const LevelPlan plan = planForLevel(level);
     const std::size_t chCount = channels.size();
@@ -168,30 +211,77 @@ std::vector<std::uint8_t> encodeFrame(const std::vector<const std::uint8_t*>& ch
         tables.probsOf.push_back(static_cast<int>(c));
         tables.halfProb.push_back(false);
     }
-    BitWriter w;
-    w.putBit(1); // DST coded
-    writeFrameTables(w, tables);
+    PreparedFrame f;
+    f.header.putBit(1); // DST coded
+    writeFrameTables(f.header, tables);
 
-    ArithEncoder ac;
-    std::vector<const std::uint8_t*> probOf(chCount);
-    std::vector<std::array<std::uint8_t, kMaxProbs>> p(chCount);
-    for (std::size_t c = 0; c < chCount; ++c)
-        for (std::size_t j = 0; j < static_cast<std::size_t>(kMaxProbs); ++j)
-            p[c][j] = static_cast<std::uint8_t>(codes[c].probs[std::min(j, codes[c].probs.size() - 1)]);
-    for (int i = 0; i < frameBits; ++i)
-        for (std::size_t c = 0; c < chCount; ++c)
-            ac.encode(codes[c].residual[static_cast<std::size_t>(i)], p[c][codes[c].index[static_cast<std::size_t>(i)]]);
-    ac.finish(w);
+    const auto bits = static_cast<std::size_t>(frameBits);
+    f.symbols.resize(bits * chCount);
+    for (std::size_t c = 0; c < chCount; ++c) {
+        std::array<std::uint16_t, kMaxProbs * 2> map{};
+        for (std::size_t j = 0; j < static_cast<std::size_t>(kMaxProbs); ++j) {
+            const auto p = static_cast<unsigned>(codes[c].probs[std::min(j, codes[c].probs.size() - 1)]);
+            map[2 * j] = static_cast<std::uint16_t>(p << 1);
+            map[2 * j + 1] = static_cast<std::uint16_t>(p << 1 | 1u);
+        }
+        const std::uint8_t* sym = codes[c].symbol.data();
+        std::uint16_t* out = f.symbols.data() + c;
+        for (std::size_t i = 0; i < bits; ++i)
+            out[i * chCount] = map[sym[i]];
+    }
+    return f;
+}
 
-    const std::size_t storedSize = 1 + static_cast<std::size_t>(frameBits) / 8 * chCount;
-    if (w.bytes().size() >= storedSize) {
+std::vector<std::uint8_t> complete(PreparedFrame& f, ArithEncoder& ac, const std::vector<const std::uint8_t*>& channels,
+                                   int frameBits, FrameStats* stats)
+{
+    ac.finish(f.header);
+    std::vector<std::uint8_t>& bytes = f.header.bytes();
+    const std::size_t storedSize = 1 + static_cast<std::size_t>(frameBits) / 8 * channels.size();
+    if (bytes.size() >= storedSize) {
         if (stats)
             *stats = {false, storedSize};
         return storedFrame(channels, frameBits);
     }
     if (stats)
-        *stats = {true, w.bytes().size()};
-    return std::move(w.bytes());
+        *stats = {true, bytes.size()};
+    return std::move(bytes);
+}
+
+} // namespace
+
+std::vector<std::uint8_t> encodeFrame(const std::vector<const std::uint8_t*>& channels, int frameBits, int level,
+                                      FrameStats* stats)
+{
+    PreparedFrame f = prepare(channels, frameBits, level);
+    ArithEncoder ac;
+    for (const std::uint16_t s : f.symbols)
+        ac.encode(s & 1u, s >> 1);
+    return complete(f, ac, channels, frameBits, stats);
+}
+
+void encodeFramePair(const std::vector<const std::uint8_t*>& first, const std::vector<const std::uint8_t*>& second,
+                     int frameBits, int level, std::vector<std::uint8_t>& outFirst, std::vector<std::uint8_t>& outSecond,
+                     FrameStats* statsFirst, FrameStats* statsSecond)
+{
+    PreparedFrame a = prepare(first, frameBits, level);
+    PreparedFrame b = prepare(second, frameBits, level);
+    // Two independent codes in one loop: each symbol's interval update is a
+    // chain of dependent operations, and two chains keep the core busier.
+    ArithEncoder acA, acB;
+    const std::size_t n = std::min(a.symbols.size(), b.symbols.size());
+    const std::uint16_t* sa = a.symbols.data();
+    const std::uint16_t* sb = b.symbols.data();
+    for (std::size_t i = 0; i < n; ++i) {
+        acA.encode(sa[i] & 1u, sa[i] >> 1);
+        acB.encode(sb[i] & 1u, sb[i] >> 1);
+    }
+    for (std::size_t i = n; i < a.symbols.size(); ++i)
+        acA.encode(sa[i] & 1u, sa[i] >> 1);
+    for (std::size_t i = n; i < b.symbols.size(); ++i)
+        acB.encode(sb[i] & 1u, sb[i] >> 1);
+    outFirst = complete(a, acA, first, frameBits, statsFirst);
+    outSecond = complete(b, acB, second, frameBits, statsSecond);
 }
 
 } // namespace zuvo::dst

@@ -18,7 +18,7 @@ struct LevelPlan {
     std::vector<int> extraOrders; // further orders tried with the first scaling
 };
 LevelPlan planForLevel(int level); // level 1..9
-constexpr int kDefaultLevel = 5;
+constexpr int kDefaultLevel = 1;
 
 struct FrameStats {
     bool coded = false;      // false: stored as plain DSD
@@ -29,6 +29,12 @@ struct FrameStats {
 // bit 7). Returns the DSTF chunk payload.
 std::vector<std::uint8_t> encodeFrame(const std::vector<const std::uint8_t*>& channels, int frameBits, int level,
                                       FrameStats* stats = nullptr);
+
+// Two frames at once (same result as two encodeFrame calls, faster: the two
+// arithmetic codes run interleaved).
+void encodeFramePair(const std::vector<const std::uint8_t*>& first, const std::vector<const std::uint8_t*>& second,
+                     int frameBits, int level, std::vector<std::uint8_t>& outFirst, std::vector<std::uint8_t>& outSecond,
+                     FrameStats* statsFirst = nullptr, FrameStats* statsSecond = nullptr);
 
 // The stored (uncompressed) form of a frame.
 std::vector<std::uint8_t> storedFrame(const std::vector<const std::uint8_t*>& channels, int frameBits);

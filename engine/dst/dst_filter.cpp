@@ -6,6 +6,15 @@
 namespace zuvo::dst {
 
 namespace {
+// Portable bit count (no dependence on the popcnt instruction).
+inline int popcount64(std::uint64_t x)
+{
+    x = x - ((x >> 1) & 0x5555555555555555ull);
+    x = (x & 0x3333333333333333ull) + ((x >> 2) & 0x3333333333333333ull);
+    x = (x + (x >> 4)) & 0x0f0f0f0f0f0f0f0full;
+    return static_cast<int>((x * 0x0101010101010101ull) >> 56);
+}
+
 std::vector<std::uint64_t> packWords(const std::uint8_t* bytes, int bits)
 {
     const std::size_t nbytes = static_cast<std::size_t>(bits) / 8;
@@ -35,7 +44,7 @@ std::vector<double> autocorrelation(const std::uint8_t* bytes, int bits, int max
             std::uint64_t d = x[w] ^ y;
             if (w == q)
                 d &= s ? (~std::uint64_t{0} >> s) : ~std::uint64_t{0};
-            diff += __builtin_popcountll(d);
+            diff += popcount64(d);
         }
         // Past the end both x and the shifted x may hold data bits against
         // zeros; count those pairs out by recomputing the last word exactly.
@@ -48,7 +57,7 @@ std::vector<double> autocorrelation(const std::uint8_t* bytes, int bits, int max
             std::uint64_t d = x[w] ^ y;
             if (w == q)
                 d &= s ? (~std::uint64_t{0} >> s) : ~std::uint64_t{0};
-            diff -= __builtin_popcountll(d & ~keep);
+            diff -= popcount64(d & ~keep);
         }
         const long long pairs = bits - k;
         r[static_cast<std::size_t>(k)] = static_cast<double>(pairs - 2 * diff);

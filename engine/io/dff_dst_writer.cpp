@@ -73,18 +73,26 @@ bool DffDstSink::writeFrames(OutputFile& file, ChannelBacklog& backlog, std::siz
     std::vector<std::uint32_t> crcs(count);
     std::vector<dst::FrameStats> stats(count);
     // Frames are independent: spread them over the cores.
+    // Frames are independent: spread pairs of them over the cores.
     std::atomic<std::size_t> next{0};
     auto work = [&] {
-        for (std::size_t f; (f = next.fetch_add(1)) < count;) {
-            std::vector<const std::uint8_t*> planes(ch);
-            for (std::size_t c = 0; c < ch; ++c)
-                planes[c] = backlog.data(c) + f * frameBytes;
-            coded[f] = dst::encodeFrame(planes, frameBits_, level_, &stats[f]);
-            const Bytes plain = dst::storedFrame(planes, frameBits_);
-            crcs[f] = dst::crc32(plain.data() + 1, plain.size() - 1);
+        for (std::size_t f; (f = 2 * next.fetch_add(1)) < count;) {
+            std::vector<const std::uint8_t*> a(ch), b(ch);
+            for (std::size_t c = 0; c < ch; ++c) {
+                a[c] = backlog.data(c) + f * frameBytes;
+                b[c] = backlog.data(c) + (f + 1) * frameBytes;
+            }
+            if (f + 1 < count)
+                dst::encodeFramePair(a, b, frameBits_, level_, coded[f], coded[f + 1], &stats[f], &stats[f + 1]);
+            else
+                coded[f] = dst::encodeFrame(a, frameBits_, level_, &stats[f]);
+            for (std::size_t k = f; k < f + 2 && k < count; ++k) {
+                const Bytes plain = dst::storedFrame(k == f ? a : b, frameBits_);
+                crcs[k] = dst::crc32(plain.data() + 1, plain.size() - 1);
+            }
         }
     };
-    const unsigned threads = std::min<unsigned>(std::max(1u, std::thread::hardware_concurrency()), static_cast<unsigned>(count));
+    const unsigned threads = std::min<unsigned>(std::max(1u, std::thread::hardware_concurrency()), static_cast<unsigned>((count + 1) / 2));
     std::vector<std::thread> pool;
     for (unsigned t = 1; t < threads; ++t)
         pool.emplace_back(work);

@@ -1,9 +1,13 @@
 // DST bench and check tool.
 //   dst_tool encode IN.dff OUT.dff LEVEL   re-encode a DSDIFF (plain or DST) as DST
 //   dst_tool compare A.dff B.dff           DSD bits of two DSDIFF/DSF files equal?
-//   dst_tool stats IN.dff LEVEL...         size ratio and encoding speed per level,
-//                                          frames coded in memory (no file written)
-#include <chrono>
+//   dst_tool stats IN.dff SECONDS LEVEL... size ratio and encoding speed per level
+//                                          over the first SECONDS (0 = all), frames
+//                                          coded in memory (no file written); speeds
+//                                          are audio seconds per CPU second of one
+//                                          thread, so a busy machine does not skew them
+#include <algorithm>
+#include <ctime>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -19,6 +23,13 @@
 using namespace zuvo;
 
 namespace {
+
+double cpuSeconds()
+{
+    timespec ts{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+    return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
+}
 
 bool readAll(const char* path, io::DsdStreamInfo& info, std::vector<std::vector<std::uint8_t>>& data)
 {
@@ -83,7 +94,7 @@ int compare(const char* a, const char* b)
     return 0;
 }
 
-int stats(const char* in, const std::vector<int>& levels)
+int stats(const char* in, double limitSeconds, const std::vector<int>& levels)
 {
     io::DsdStreamInfo info;
     std::vector<std::vector<std::uint8_t>> data;
@@ -91,10 +102,12 @@ int stats(const char* in, const std::vector<int>& levels)
         return 1;
     const int bits = dst::frameBits(info.sampleRate);
     const std::size_t fb = static_cast<std::size_t>(bits) / 8;
-    const std::size_t frames = data[0].size() / fb;
+    std::size_t frames = data[0].size() / fb;
+    if (limitSeconds > 0)
+        frames = std::min(frames, static_cast<std::size_t>(limitSeconds * dst::kFramesPerSecond));
     const double seconds = static_cast<double>(frames) / dst::kFramesPerSecond;
     std::printf("%s: %d ch, DSD rate %d, %zu frames (%.1f s)\n", in, info.channels, info.sampleRate, frames, seconds);
-    std::printf("level  ratio(coded/plain)  stored-frames  encode xRT(1 thread)  decode xRT  roundtrip\n");
+    std::printf("level  ratio(coded/plain)  stored-frames  encode xRT/core  decode xRT/core  roundtrip\n");
     for (int level : levels) {
         std::size_t total = 0, stored = 0;
         double encSec = 0, decSec = 0;
@@ -105,14 +118,14 @@ int stats(const char* in, const std::vector<int>& levels)
             for (auto& ch : data)
                 planes.push_back(ch.data() + f * fb);
             dst::FrameStats st;
-            const auto t0 = std::chrono::steady_clock::now();
+            const double t0 = cpuSeconds();
             const auto frame = dst::encodeFrame(planes, bits, level, &st);
-            const auto t1 = std::chrono::steady_clock::now();
+            const double t1 = cpuSeconds();
             std::string why;
             const bool ok = dst::decodeFrame(frame.data(), frame.size(), info.channels, bits, back, &why);
-            const auto t2 = std::chrono::steady_clock::now();
-            encSec += std::chrono::duration<double>(t1 - t0).count();
-            decSec += std::chrono::duration<double>(t2 - t1).count();
+            const double t2 = cpuSeconds();
+            encSec += t1 - t0;
+            decSec += t2 - t1;
             total += frame.size();
             stored += st.coded ? 0 : 1;
             for (std::size_t c = 0; ok && c < planes.size(); ++c)
@@ -120,7 +133,7 @@ int stats(const char* in, const std::vector<int>& levels)
             exact = exact && ok;
         }
         const double plain = static_cast<double>(frames * fb * data.size());
-        std::printf("%5d  %18.4f  %13zu  %20.1f  %10.1f  %s\n", level, static_cast<double>(total) / plain, stored,
+        std::printf("%5d  %18.4f  %13zu  %15.1f  %15.1f  %s\n", level, static_cast<double>(total) / plain, stored,
                     seconds / encSec, seconds / decSec, exact ? "bit-exact" : "MISMATCH");
     }
     return 0;
@@ -134,12 +147,12 @@ int main(int argc, char** argv)
         return encode(argv[2], argv[3], std::atoi(argv[4]));
     if (argc == 4 && std::strcmp(argv[1], "compare") == 0)
         return compare(argv[2], argv[3]);
-    if (argc >= 4 && std::strcmp(argv[1], "stats") == 0) {
+    if (argc >= 5 && std::strcmp(argv[1], "stats") == 0) {
         std::vector<int> levels;
-        for (int i = 3; i < argc; ++i)
+        for (int i = 4; i < argc; ++i)
             levels.push_back(std::atoi(argv[i]));
-        return stats(argv[2], levels);
+        return stats(argv[2], std::atof(argv[3]), levels);
     }
-    std::fprintf(stderr, "usage: dst_tool encode IN OUT LEVEL | compare A B | stats IN LEVEL...\n");
+    std::fprintf(stderr, "usage: dst_tool encode IN OUT LEVEL | compare A B | stats IN SECONDS LEVEL...\n");
     return 2;
 }

@@ -95,6 +95,72 @@ bool readList(BitReader& r, int lengthBits, int bits, bool isSigned, int offset,
     return true;
 }
 
+// The cheaper of the plain and the Rice-coded form of a coefficient list:
+// the method (which predictor of the next value from the ones before) and
+// the Rice parameter that give the fewest bits.
+struct ListCoding {
+    bool coded = false;
+    int method = 0;
+    int m = 0;
+    int bits = 0; // after the length field
+};
+
+int riceBits(int r, int m)
+{
+    const int mag = r < 0 ? -r : r;
+    return (mag >> m) + 1 + m + (mag != 0 ? 1 : 0);
+}
+
+ListCoding chooseCoding(const std::vector<int>& v, int width, const int pred[3][3])
+{
+    ListCoding best;
+    best.bits = 1 + width * static_cast<int>(v.size());
+    for (int method = 0; method < 3 && method + 1 < static_cast<int>(v.size()); ++method) {
+        for (int m = 0; m < 8; ++m) {
+            int bits = 1 + 2 + (method + 1) * width + 3;
+            for (std::size_t j = static_cast<std::size_t>(method) + 1; j < v.size() && bits < best.bits; ++j)
+                bits += riceBits(v[j] - predictedFrom(pred[method], v, j, method), m);
+            if (bits < best.bits)
+                best = {true, method, m, bits};
+        }
+    }
+    return best;
+}
+
+void writeList(BitWriter& w, const std::vector<int>& v, int lengthBits, int width, bool isSigned, int offset,
+               const int pred[3][3])
+{
+    w.put(static_cast<std::uint32_t>(v.size() - 1), lengthBits);
+    const ListCoding c = chooseCoding(v, width, pred);
+    auto plain = [&](int x) {
+        if (isSigned)
+            w.putSigned(x - offset, width);
+        else
+            w.put(static_cast<std::uint32_t>(x - offset), width);
+    };
+    w.putBit(c.coded ? 1 : 0);
+    if (!c.coded) {
+        for (int x : v)
+            plain(x);
+        return;
+    }
+    w.put(static_cast<std::uint32_t>(c.method), 2);
+    for (int j = 0; j <= c.method; ++j)
+        plain(v[static_cast<std::size_t>(j)]);
+    w.put(static_cast<std::uint32_t>(c.m), 3);
+    for (std::size_t j = static_cast<std::size_t>(c.method) + 1; j < v.size(); ++j) {
+        const int r = v[j] - predictedFrom(pred[c.method], v, j, c.method);
+        const int mag = r < 0 ? -r : r;
+        for (int z = mag >> c.m; z > 0; --z)
+            w.putBit(0);
+        w.putBit(1);
+        if (c.m > 0)
+            w.put(static_cast<std::uint32_t>(mag) & ((1u << c.m) - 1u), c.m);
+        if (mag != 0)
+            w.putBit(r < 0 ? 1 : 0);
+    }
+}
+
 void writeMap(BitWriter& w, const std::vector<int>& map)
 {
     bool same = true;
@@ -125,18 +191,10 @@ void writeFrameTables(BitWriter& w, const FrameTables& t)
         writeMap(w, t.probsOf);
     for (bool h : t.halfProb)
         w.putBit(h ? 1 : 0);
-    for (const auto& f : t.filters) {
-        w.put(static_cast<std::uint32_t>(f.size() - 1), 7);
-        w.putBit(0); // plain coefficients
-        for (int c : f)
-            w.putSigned(c, kCoefBits);
-    }
-    for (const auto& p : t.probs) {
-        w.put(static_cast<std::uint32_t>(p.size() - 1), 6);
-        w.putBit(0);
-        for (int v : p)
-            w.put(static_cast<std::uint32_t>(v - 1), kProbBits);
-    }
+    for (const auto& f : t.filters)
+        writeList(w, f, 7, kCoefBits, true, 0, kFilterPred);
+    for (const auto& p : t.probs)
+        writeList(w, p, 6, kProbBits, false, 1, kProbPred);
 }
 
 bool readFrameTables(BitReader& r, int channels, FrameTables& t, std::string* why)
@@ -176,12 +234,12 @@ bool readFrameTables(BitReader& r, int channels, FrameTables& t, std::string* wh
 
 double filterBits(const std::vector<int>& coefs)
 {
-    return 8.0 + kCoefBits * static_cast<double>(coefs.size());
+    return 7.0 + chooseCoding(coefs, kCoefBits, kFilterPred).bits;
 }
 
 double ptableBits(const std::vector<int>& probs)
 {
-    return 7.0 + kProbBits * static_cast<double>(probs.size());
+    return 6.0 + chooseCoding(probs, kProbBits, kProbPred).bits;
 }
 
 } // namespace zuvo::dst

@@ -14,7 +14,8 @@ void writeFrameTables(BitWriter& w, const FrameTables& t);
 // decoder does not implement (more than one segment per channel).
 bool readFrameTables(BitReader& r, int channels, FrameTables& t, std::string* why);
 
-// Header bits one filter or one probability table costs as written.
+// Header bits one filter or one probability table costs as written (the
+// plain or the Rice-coded form, whichever is smaller).
 double filterBits(const std::vector<int>& coefs);
 double ptableBits(const std::vector<int>& probs);
 

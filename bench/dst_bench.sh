@@ -32,8 +32,8 @@ run_timed() { # prints "wall cpu"
   /usr/bin/time -f "%e %U %S" -o "$OUT/dst/time.txt" "$@" > /dev/null 2>&1 || return 1
   awk '{printf "%.2f %.2f", $1, $2 + $3}' "$OUT/dst/time.txt"
 }
-for spec in 64:tone997_f32 64:multitone_f32 64:pink_f32 128:pink_f32; do
-  os=${spec%%:*}; sig=${spec#*:}
+for item in 64:tone997_f32 64:multitone_f32 64:pink_f32 128:pink_f32; do
+  os=${item%%:*}; sig=${item#*:}
   in="$OUT/signals/$sig.wav"
   plain="$OUT/dst/${sig}_dsd$os.dff"; dst="$OUT/dst/${sig}_dsd${os}_dst.dff"
   read -r pw pc <<< "$(run_timed "$ENGINE" -i "$in" --oversampling "$os" "$plain")"

@@ -4,6 +4,8 @@
 // and a DSTC chunk (CRC-32 of the frame's DSD bytes as they would lie in an
 // uncompressed file), then after it a DSTI index chunk and a MANF chunk with
 // the exact DSD length (the last frame is padded with silence to 1/75 s).
+// Each DSTI entry holds the file offset of a frame's data (just after its
+// DSTF chunk header, 8 bytes) and the data's length (4 bytes).
 #include <cstdint>
 #include <string>
 #include <vector>

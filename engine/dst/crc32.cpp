@@ -4,7 +4,8 @@
 
 namespace zuvo::dst {
 
-std::uint32_t crc32(const std::uint8_t* data, std::size_t size, std::uint32_t crc)
+namespace {
+const std::array<std::uint32_t, 256>& crcTable()
 {
     static const std::array<std::uint32_t, 256> table = [] {
         std::array<std::uint32_t, 256> t{};
@@ -16,9 +17,26 @@ std::uint32_t crc32(const std::uint8_t* data, std::size_t size, std::uint32_t cr
         }
         return t;
     }();
+    return table;
+}
+} // namespace
+
+std::uint32_t crc32(const std::uint8_t* data, std::size_t size, std::uint32_t crc)
+{
+    const auto& table = crcTable();
     crc = ~crc;
     for (std::size_t i = 0; i < size; ++i)
         crc = table[(crc ^ data[i]) & 0xffu] ^ (crc >> 8);
+    return ~crc;
+}
+
+std::uint32_t crc32Interleaved(const std::vector<const std::uint8_t*>& channels, std::size_t bytes)
+{
+    const auto& table = crcTable();
+    std::uint32_t crc = ~0u;
+    for (std::size_t i = 0; i < bytes; ++i)
+        for (const std::uint8_t* ch : channels)
+            crc = table[(crc ^ ch[i]) & 0xffu] ^ (crc >> 8);
     return ~crc;
 }
 

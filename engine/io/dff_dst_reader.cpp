@@ -102,12 +102,10 @@ bool DffDstSource::nextFrame(std::string* error)
     if (chunkHeader(pos_, id, size) && std::memcmp(id, "DSTC", 4) == 0) {
         std::uint8_t crc[4];
         if (size == 4 && std::fread(crc, 1, 4, file_) == 4) {
-            const auto ch = static_cast<std::size_t>(channels_);
-            std::vector<std::uint8_t> plain(frameBytes_ * ch);
-            for (std::size_t c = 0; c < ch; ++c)
-                for (std::size_t i = 0; i < frameBytes_; ++i)
-                    plain[i * ch + c] = frame_[c][i];
-            if (dst::crc32(plain.data(), plain.size()) != be(crc, 4))
+            std::vector<const std::uint8_t*> planes;
+            for (const auto& c : frame_)
+                planes.push_back(c.data());
+            if (dst::crc32Interleaved(planes, static_cast<std::size_t>(frameBytes_)) != be(crc, 4))
                 return fail(error, "CRC mismatch");
         }
         pos_ += 12 + size + (size & 1);

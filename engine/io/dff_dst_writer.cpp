@@ -86,10 +86,8 @@ bool DffDstSink::writeFrames(OutputFile& file, ChannelBacklog& backlog, std::siz
                 dst::encodeFramePair(a, b, frameBits_, level_, coded[f], coded[f + 1], &stats[f], &stats[f + 1]);
             else
                 coded[f] = dst::encodeFrame(a, frameBits_, level_, &stats[f]);
-            for (std::size_t k = f; k < f + 2 && k < count; ++k) {
-                const Bytes plain = dst::storedFrame(k == f ? a : b, frameBits_);
-                crcs[k] = dst::crc32(plain.data() + 1, plain.size() - 1);
-            }
+            for (std::size_t k = f; k < f + 2 && k < count; ++k)
+                crcs[k] = dst::crc32Interleaved(k == f ? a : b, frameBytes);
         }
     };
     const unsigned threads = std::min<unsigned>(std::max(1u, std::thread::hardware_concurrency()), static_cast<unsigned>((count + 1) / 2));

@@ -33,7 +33,8 @@ private:
     std::vector<std::string> positional_;
     std::string modulatorGiven_;
     bool bitsGiven_ = false, samplingGiven_ = false, lowpassGiven_ = false, floatGiven_ = false,
-         dxdRateGiven_ = false, formatGiven_ = false;
+         dxdRateGiven_ = false, formatGiven_ = false,
+         dstLevelGiven_ = false;
 };
 
 bool Parser::value(std::string& out)
@@ -249,6 +250,12 @@ bool Parser::handle(const std::string& a)
                 result_.warnings.push_back("--absdb given after another gain: the last one is used");
             o.gain = x != 0 ? std::optional<double>(std::pow(10.0, x / 20.0)) : std::nullopt;
         }
+    } else if (a == "--dst") {
+        o.dst = true;
+    } else if (a == "--dst-compression") {
+        dstLevelGiven_ = true;
+        if (intValue(0, 9, n))
+            o.dstLevel = static_cast<int>(n);
     } else if (a == "--sampling") {
         samplingGiven_ = true;
         if (intValue(8000, 1536000, n))
@@ -302,6 +309,14 @@ void Parser::validate()
         error("--cover applies to DSF and DSDIFF outputs only");
     if (o.mode != Mode::Dxd && dxdRateGiven_)
         error("--dxd-samplerate applies to --dxd only");
+    if (o.dst && o.mode != Mode::Forward)
+        error("--dst applies to DSD outputs only (not to --reverse or --dxd)");
+    if (o.dst && o.dstLevel == 0) {
+        o.dst = false;
+        result_.warnings.push_back("--dst-compression 0 turns DST off: the DSDIFF file is written uncompressed");
+    }
+    if (dstLevelGiven_ && !o.dst && o.dstLevel > 0)
+        result_.warnings.push_back("--dst-compression has no effect without --dst");
 }
 
 ParsedCommandLine Parser::run()

@@ -46,6 +46,8 @@ struct EngineOptions {
     dsp::ModulatorOptions modulator;
     std::optional<double> gain; // linear; absent = automatic
     bool predistortion = true;
+    bool dst = false;        // --dst: DST-compressed DSDIFF
+    int dstLevel = 1;        // --dst-compression 1..9 (default 1, the fastest); 0 turns --dst off
 
     // PCM outputs (reverse and DXD).
     bool flac = false;       // --format flac

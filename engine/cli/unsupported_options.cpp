@@ -13,7 +13,7 @@ struct Row {
     ValueShape shape;
 };
 
-// Effects, repair stages, analysis extras, channel re-mapping, DST, OpenCL
+// Effects, repair stages, analysis extras, channel re-mapping, OpenCL
 // and recording: not in this version of the engine.
 const Row kRows[] = {
     // Repair and restoration.
@@ -56,7 +56,7 @@ const Row kRows[] = {
     // Channel re-mapping.
     {"--resetchannels", ValueShape::One}, {"--quad", ValueShape::None},
     // Containers, transports and hardware.
-    {"--dst", ValueShape::None}, {"--dst-compression", ValueShape::One}, {"--opencl", ValueShape::None},
+    {"--opencl", ValueShape::None},
     {"--pipe", ValueShape::None}, {"--force-endianness", ValueShape::One}, {"--memory-cache", ValueShape::One},
     {"--cue", ValueShape::One},
     // Analysis extras.

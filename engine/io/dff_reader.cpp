@@ -35,13 +35,15 @@ bool DffReader::readProp(std::uint64_t end, std::string* error)
             info_.sampleRate = static_cast<int>(be(body, 4));
         else if (std::memcmp(h, "CHNL", 4) == 0 && size >= 2)
             info_.channels = static_cast<int>(be(body, 2));
-        else if (std::memcmp(h, "CMPR", 4) == 0 && size >= 4)
-            compressed = std::memcmp(body, "DSD ", 4) != 0;
+        else if (std::memcmp(h, "CMPR", 4) == 0 && size >= 4) {
+            dstCompressed_ = std::memcmp(body, "DST ", 4) == 0;
+            compressed = std::memcmp(body, "DSD ", 4) != 0 && !dstCompressed_;
+        }
         pos += 12 + size + (size & 1);
     }
     if (compressed) {
         if (error)
-            *error = path_ + ": compressed (DST) DSDIFF is not supported by this version";
+            *error = path_ + ": this DSDIFF compression type is not supported (plain DSD and DST only)";
         return false;
     }
     return true;
@@ -104,9 +106,14 @@ bool DffReader::open(const std::string& path, std::string* error)
             // A file cut short keeps what it has.
             dataSize = std::min(size, fileSize - dataStart_);
         } else if (std::memcmp(c, "DST ", 4) == 0) {
-            if (error)
-                *error = path + ": compressed (DST) DSDIFF is not supported by this version";
-            return false;
+            if (!haveProp || !dstCompressed_)
+                return bad("DST data without a DST compression type");
+            if (!openDst(pos + 12, std::min(bodyEnd, formEnd), error))
+                return false;
+        } else if (std::memcmp(c, "MANF", 4) == 0 && size >= 16) {
+            std::uint8_t m[16];
+            if (readExact(m, 16) && std::memcmp(m, kManfId, 4) == 0 && std::memcmp(m + 4, kManfLengthTag, 4) == 0)
+                exactBytes_ = be(m + 8, 8);
         } else if (std::memcmp(c, "DIIN", 4) == 0) {
             readDiin(std::min(bodyEnd, formEnd));
         } else if (std::memcmp(c, "ID3 ", 4) == 0 && size < (64u << 20)) {
@@ -119,6 +126,12 @@ bool DffReader::open(const std::string& path, std::string* error)
     }
     if (!haveProp || info_.channels < 1 || info_.channels > 8 || info_.sampleRate <= 0)
         return bad("missing or unsupported sound properties");
+    if (dst_) {
+        const std::uint64_t framed = dst_->frames() * dst_->frameBytes();
+        info_.bytesPerChannel = exactBytes_ > 0 && exactBytes_ <= framed ? exactBytes_ : framed;
+        info_.container = "DSDIFF";
+        return true;
+    }
     if (dataStart_ == 0)
         return bad("no sound data");
     info_.bytesPerChannel = dataSize / static_cast<std::uint64_t>(info_.channels);
@@ -126,8 +139,30 @@ bool DffReader::open(const std::string& path, std::string* error)
     return seek(dataStart_) || bad("cannot seek to the data");
 }
 
+bool DffReader::openDst(std::uint64_t begin, std::uint64_t end, std::string* error)
+{
+    if (info_.channels < 1 || info_.channels > 8 || info_.sampleRate <= 0) {
+        if (error)
+            *error = path_ + ": damaged DSDIFF file (DST data before the sound properties)";
+        return false;
+    }
+    dst_ = std::make_unique<DffDstSource>();
+    return dst_->open(file_, path_, begin, end, info_.channels, info_.sampleRate, error);
+}
+
 long long DffReader::read(std::size_t maxBytes, std::vector<std::vector<std::uint8_t>>& out, std::string* error)
 {
+    if (dst_) {
+        const std::size_t n = static_cast<std::size_t>(std::min<std::uint64_t>(maxBytes, info_.bytesPerChannel - consumed_));
+        if (n == 0) {
+            out.assign(static_cast<std::size_t>(info_.channels), {});
+            return 0;
+        }
+        const long long got = dst_->read(n, out, error);
+        if (got > 0)
+            consumed_ += static_cast<std::uint64_t>(got);
+        return got;
+    }
     const auto ch = static_cast<std::size_t>(info_.channels);
     out.resize(ch);
     const std::size_t n = static_cast<std::size_t>(std::min<std::uint64_t>(maxBytes, info_.bytesPerChannel - consumed_));

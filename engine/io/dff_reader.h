@@ -1,4 +1,8 @@
 #pragma once
+#include <memory>
+
+#include "io/dff_dst_reader.h"
+#include "io/dff_dst_writer.h"
 #include "io/dsd_reader.h"
 
 namespace zuvo::io {
@@ -11,6 +15,11 @@ public:
 private:
     bool readProp(std::uint64_t end, std::string* error);
     void readDiin(std::uint64_t end);
+    bool openDst(std::uint64_t begin, std::uint64_t end, std::string* error);
+
+    bool dstCompressed_ = false;
+    std::uint64_t exactBytes_ = 0; // from our MANF chunk, 0 when absent
+    std::unique_ptr<DffDstSource> dst_;
 
     std::uint64_t dataStart_ = 0;
     std::vector<std::uint8_t> buffer_;

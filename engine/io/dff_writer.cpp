@@ -86,7 +86,7 @@ Bytes propChunkBody(const DsdFormat& f)
     cmpr.insert(cmpr.end(), name.begin(), name.end());
     if ((name.size() + 1) & 1)
         cmpr.push_back(0);
-    putChunk(prop, "CMPR", cmpr);
+    putChunk(prop, "CMPR", f.dstLevel > 0 ? DffDstSink::cmprBody() : cmpr);
     return prop;
 }
 
@@ -135,6 +135,9 @@ bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tag
     tags_ = tags;
     pending_.reset(format.channels);
     validBytes_ = 0;
+    useDst_ = format.dstLevel > 0;
+    if (useDst_ && !dst_.start(format.channels, format.sampleRate, format.dstLevel, error))
+        return false;
 
     Bytes head;
     putId(head, "FRM8");
@@ -147,8 +150,13 @@ bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tag
     const Bytes tagBytes = tagChunks(tags);
     head.insert(head.end(), tagBytes.begin(), tagBytes.end());
     dsdChunkOffset_ = head.size();
-    putId(head, "DSD ");
-    putBE(head, 0, 8); // sound data size, patched at the end
+    if (useDst_) {
+        const Bytes dstHead = dst_.chunkHead();
+        head.insert(head.end(), dstHead.begin(), dstHead.end());
+    } else {
+        putId(head, "DSD ");
+        putBE(head, 0, 8); // sound data size, patched at the end
+    }
     if (!file_.open(path, error))
         return false;
     return file_.write(head.data(), head.size(), error);
@@ -174,12 +182,19 @@ bool DffWriter::writeInterleaved(std::size_t n, std::string* error)
 bool DffWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, std::string* error)
 {
     pending_.append(perChannel);
+    if (useDst_) {
+        const bool ok = dst_.push(file_, pending_, error);
+        validBytes_ = dst_.validBytes();
+        return ok;
+    }
     const std::size_t common = pending_.common();
     return common == 0 || writeInterleaved(common, error);
 }
 
 bool DffWriter::finalize(std::string* error)
 {
+    if (useDst_)
+        return finalizeDst(error);
     const std::size_t longest = pending_.padToLongest();
     if (longest > 0 && !writeInterleaved(longest, error))
         return false;
@@ -197,6 +212,20 @@ bool DffWriter::finalize(std::string* error)
     const std::uint64_t formSize = file_.position() - 12;
     return file_.patchBE(4, formSize, 8, error) && file_.patchBE(dsdChunkOffset_ + 4, dataBytes, 8, error)
         && file_.close(error);
+}
+
+bool DffWriter::finalizeDst(std::string* error)
+{
+    if (!dst_.finish(file_, pending_, dsdChunkOffset_, error))
+        return false;
+    validBytes_ = dst_.validBytes();
+    if (!tags_.empty()) {
+        Bytes id3Chunk;
+        putChunk(id3Chunk, "ID3 ", buildId3v2(tags_));
+        if (!file_.write(id3Chunk.data(), id3Chunk.size(), error))
+            return false;
+    }
+    return file_.patchBE(4, file_.position() - 12, 8, error) && file_.close(error);
 }
 
 void DffWriter::discard()

@@ -1,5 +1,6 @@
 #pragma once
 #include "io/channel_backlog.h"
+#include "io/dff_dst_writer.h"
 #include "io/dsd_writer.h"
 
 namespace zuvo::io {
@@ -14,6 +15,7 @@ public:
 
 private:
     bool writeInterleaved(std::size_t n, std::string* error);
+    bool finalizeDst(std::string* error);
 
     OutputFile file_;
     DsdFormat format_;
@@ -22,6 +24,8 @@ private:
     std::vector<std::uint8_t> interleaved_;
     std::uint64_t validBytes_ = 0;
     std::uint64_t dsdChunkOffset_ = 0;
+    bool useDst_ = false;
+    DffDstSink dst_;
 };
 
 } // namespace zuvo::io

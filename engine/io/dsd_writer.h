@@ -16,6 +16,7 @@ namespace zuvo::io {
 struct DsdFormat {
     int channels = 2;
     int sampleRate = 2822400; // 1-bit samples per second per channel
+    int dstLevel = 0;         // DSDIFF only: DST compression level 1..9, 0 = plain DSD
 };
 
 class DsdWriter {

@@ -69,6 +69,10 @@ int runForward(RunContext& ctx)
         return kExitUsage;
     }
     const auto container = ext == ".dsf" ? io::DsdContainer::Dsf : io::DsdContainer::Dff;
+    if (o.dst && container != io::DsdContainer::Dff) {
+        report(ctx, "DST compression is only possible with a DSDIFF (.dff) output: %s", o.output.c_str());
+        return kExitUsage;
+    }
     io::PcmReader reader;
     const int refused = openPcmInput(ctx, reader, input, InputDetail::WithFrames, [&](const io::PcmStreamInfo& in) {
         if (!supportedRate(in.sampleRate)) {
@@ -123,7 +127,10 @@ int runForward(RunContext& ctx)
         return kExitFailure;
     }
     auto writer = io::makeDsdWriter(container);
-    if (!writer->open(o.output, {in.channels, dsdRate}, tags, &error)) {
+    const int dstLevel = o.dst ? o.dstLevel : 0;
+    if (dstLevel > 0)
+        ctx.log.line("DST compression level %d", dstLevel);
+    if (!writer->open(o.output, {in.channels, dsdRate, dstLevel}, tags, &error)) {
         report(ctx, "%s", error.c_str());
         return kExitFailure;
     }

@@ -108,13 +108,13 @@ void EngineUsageTest::dffWithEmptyArtistAndTitle()
 void EngineUsageTest::unsupportedOptionsAllNamedBeforeOutput()
 {
     const QString out = dir_.filePath("refused.dsf");
-    const RunResult r = runEngine({"-i", tone("in.wav"), "--gui", "--dst", "--eq", "1000,-3.0,1.0q", "--hrtf", "ms",
+    const RunResult r = runEngine({"-i", tone("in.wav"), "--gui", "--eq", "1000,-3.0,1.0q", "--hrtf", "ms",
                                    "--hrtf-mix", "0.500000", "--bass", "2.000000", "--equalizer", "100", "3", "50",
                                    "--compressor", "-12.000000", "4.000000", "soft", "5.000000", "100.000000",
                                    "--apo", "--crossfeed", "custom", "-6.000000", "-12.000000", "--zero", "0.1",
                                    "0.2", out, "--surround", "15", "80", "side", "20"});
     QCOMPARE(r.exitCode, 2);
-    for (const char* name : {"--dst", "--eq", "--hrtf", "--hrtf-mix", "--bass", "--equalizer", "--compressor",
+    for (const char* name : {"--eq", "--hrtf", "--hrtf-mix", "--bass", "--equalizer", "--compressor",
                              "--apo", "--crossfeed", "--zero", "--surround"})
         QVERIFY2(r.err.contains(QString(name) + ",") || r.err.contains(QString(name) + "\n"), name);
     // Values of refused options are not mistaken for options or outputs.

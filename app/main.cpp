@@ -4,11 +4,13 @@
 #include <QPixmap>
 #include <QTimer>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "console_attach.h"
 #include "engine_main.h"
 #include "mainwindow.h"
+#include "qt_messages.h"
 #include "quit_on_signal.h"
 #include "screenshot.h"
 #include "startup_env.h"
@@ -38,6 +40,7 @@ int main(int argc, char** argv)
 
     if (isEngineInvocation(argc, argv))
         return runEngine(argc, argv);
+    routeQtMessagesToOriginalStderr();
 
     auto app = std::make_unique<QApplication>(argc, argv);
     applySettingsDirFromEnvironment();

@@ -64,15 +64,17 @@ void LogPane::flushPending()
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     QString run;
+    bool needBreak = !document()->isEmpty();
     while (next < pending_.size() && slice.elapsed() < kFlushSliceMs) {
         // One insertion per run of lines of the same colour, a few hundred at a time.
         const bool isError = pending_.at(next).isError;
         const qsizetype stop = std::min(pending_.size(), next + kLinesPerInsert);
         run.clear();
         for (; next < stop && pending_.at(next).isError == isError; ++next) {
-            if (!run.isEmpty() || !document()->isEmpty())
+            if (needBreak)
                 run += QChar::ParagraphSeparator;
             run += pending_.at(next).text;
+            needBreak = true;
         }
         cursor.insertText(run, isError ? error : plain);
     }

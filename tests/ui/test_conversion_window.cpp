@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QProgressBar>
 #include <QStatusBar>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -19,6 +21,7 @@
 #include "conversion_queue.h"
 #include "file_list_widget.h"
 #include "io_panel.h"
+#include "log_pane.h"
 #include "mainwindow.h"
 
 namespace {
@@ -338,6 +341,29 @@ private slots:
         emit io->clearRequested();
         QCOMPARE(list->count(), 0);
         QCOMPARE(w.findChild<QLabel*>("fileCount")->text(), QString("0 个文件"));
+    }
+
+    void logPaneKeepsTheNewestLinesInTheirColours()
+    {
+        Harness h(true, "exit 0\n");
+        LogPane pane;
+        pane.append("", false);
+        for (int i = 0; i < 25000; ++i)
+            pane.append(QString("line %1").arg(i), i % 1000 == 999);
+        QVERIFY(pane.hasPending()); // drawn from the event loop, in slices
+        QTRY_VERIFY_WITH_TIMEOUT(!pane.hasPending(), 10000);
+        QTextDocument* doc = pane.document();
+        QCOMPARE(doc->blockCount(), LogPane::kMaxBlocks);
+        QCOMPARE(doc->firstBlock().text(), QString("line 5000"));
+        QCOMPARE(doc->lastBlock().text(), QString("line 24999"));
+        QCOMPARE(doc->lastBlock().begin().fragment().charFormat().foreground().color(), QColor(200, 60, 60));
+        QVERIFY(doc->lastBlock().previous().begin().fragment().charFormat().foreground().color()
+                != QColor(200, 60, 60));
+        // Every line reached the mirror, in order, the blank first one included.
+        const QStringList mirrored = h.log().split('\n');
+        QCOMPARE(mirrored.size(), 25002);
+        QCOMPARE(mirrored.at(0), QString("[log] "));
+        QCOMPARE(mirrored.at(25000), QString("[err] line 24999"));
     }
 
 private:

@@ -100,14 +100,19 @@ QString riffProblem(Header& h)
     if ((!h.id(0, "RIFF") && !rf64) || !h.id(8, "WAVE"))
         return tr("不是 WAV 文件");
     bool fmt = false;
+    quint64 ds64Data = 0; // RF64 keeps the real data size here
     quint64 at = 12;
     for (int n = 0; at + 8 <= quint64(h.size()) && n < 4096; ++n) {
         quint64 size = 0, channels = 0, rate = 0;
         h.le(qint64(at) + 4, 4, size);
+        if (rf64 && h.id(qint64(at), "ds64") && (size < 24 || !h.le(qint64(at) + 16, 8, ds64Data)))
+            return tr("RF64 的 ds64 块不对");
         if (h.id(qint64(at), "data")) {
+            if (rf64 && size == 0xFFFFFFFF)
+                size = ds64Data;
             if (!fmt)
                 return tr("WAV 缺少格式块");
-            if ((!rf64 || size != 0xFFFFFFFF) && size > quint64(h.size()) - at - 8)
+            if (size > quint64(h.size()) - at - 8)
                 return tr("WAV 数据块超出文件 (文件不完整)");
             return {};
         }
@@ -136,12 +141,13 @@ QString w64Problem(Header& h)
     quint64 at = 40;
     for (int n = 0; at + 24 <= quint64(h.size()) && n < 4096; ++n) {
         quint64 size = 0;
-        if (!h.bytes(qint64(at), guid, 16) || std::memcmp(guid + 4, kTail, 12) != 0 || !h.le(qint64(at) + 16, 8, size)
-            || size < 24 || size > quint64(h.size()) - at)
+        if (!h.bytes(qint64(at), guid, 16) || !h.le(qint64(at) + 16, 8, size) || size < 24
+            || size > quint64(h.size()) - at)
             return tr("W64 块超出文件 (文件不完整)");
-        if (std::memcmp(guid, "fmt ", 4) == 0)
+        const bool known = std::memcmp(guid + 4, kTail, 12) == 0;
+        if (known && std::memcmp(guid, "fmt ", 4) == 0)
             fmt = size >= 24 + 16;
-        if (std::memcmp(guid, "data", 4) == 0)
+        if (known && std::memcmp(guid, "data", 4) == 0)
             return fmt ? QString() : tr("W64 缺少格式块");
         at += (size + 7) & ~quint64(7);
     }

@@ -4,7 +4,6 @@
 #include <QPixmap>
 #include <QTimer>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 #include "console_attach.h"

@@ -24,5 +24,10 @@ void LogMirror::write(const QString& text, bool isError)
     const QByteArray line = (isError ? QByteArrayLiteral("[err] ") : QByteArrayLiteral("[log] "))
                             + text.toUtf8() + '\n';
     file_.write(line);
-    file_.flush();
+}
+
+void LogMirror::flush()
+{
+    if (file_.isOpen())
+        file_.flush();
 }

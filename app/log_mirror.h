@@ -10,7 +10,9 @@ public:
     LogMirror();
     explicit LogMirror(const QString& path);
 
+    // Buffered until flush(): a flood of lines costs a few writes, not one per line.
     void write(const QString& text, bool isError);
+    void flush();
 
 private:
     QString path_;

@@ -15,6 +15,7 @@
 #include "mainwindow.h"
 #include "pages/basic_page.h"
 #include "parameter_tabs.h"
+#include "qt_messages.h"
 #include "quit_on_signal.h"
 #include "screenshot.h"
 #include "smoke_report.h"
@@ -45,6 +46,7 @@ int main(int argc, char** argv)
 
     if (isEngineInvocation(argc, argv))
         return runEngine(argc, argv);
+    routeQtMessagesToOriginalStderr();
 
     auto app = std::make_unique<QApplication>(argc, argv);
     applySettingsDirFromEnvironment();

@@ -1,17 +1,16 @@
 #include "conversion_queue.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTimer>
 
 #include "engine_args.h"
 #include "engine_output.h"
 #include "engine_session.h"
 #include "output_naming.h"
-#include "preset_json.h"
+#include "preset_store.h"
 #include "session_inbox.h"
 
 namespace {
@@ -23,6 +22,9 @@ bool confirmsStop(int exitCode)
 }
 
 constexpr int kStopConfirmMs = 2000;
+// Longest stretch the queue works on engine output before the event loop gets
+// its turn again (the log pane's insertion of what was handled follows it).
+constexpr qint64 kOutputSliceMs = 15;
 constexpr int kShutdownWaitMs = 2000;
 
 } // namespace
@@ -88,19 +90,11 @@ ConversionSettings ConversionQueue::settingsForCurrentFile()
     if (!preset)
         return settings;
 
-    QFile f(preset->path);
-    if (!f.open(QIODevice::ReadOnly)) {
-        logError(tr("✗ 逐轨预设无法解析, 本文件改用当前参数: %1 (%2)").arg(preset->path, tr("无法读取文件")));
+    const PresetLoad read = PresetStore::load(preset->path, &settings);
+    if (read.status != PresetLoad::Ok) {
+        logError(tr("✗ 逐轨预设无法解析, 本文件改用当前参数: %1 (%2)").arg(preset->path, read.error));
         return settings;
     }
-    QJsonParseError error{};
-    const QJsonDocument doc = QJsonDocument::fromJson(f.readAll(), &error);
-    if (error.error != QJsonParseError::NoError || !doc.isObject()) {
-        const QString reason = error.error != QJsonParseError::NoError ? error.errorString() : tr("不是 JSON 对象");
-        logError(tr("✗ 逐轨预设无法解析, 本文件改用当前参数: %1 (%2)").arg(preset->path, reason));
-        return settings;
-    }
-    const PresetReadResult read = presetFromJson(doc.object(), &settings);
     log(tr("逐轨预设《%1》").arg(preset->name));
     if (read.unsupportedKeys > 0)
         log(tr("  预设含 %1 个本版未支持字段, 已忽略").arg(read.unsupportedKeys));
@@ -143,6 +137,12 @@ void ConversionQueue::runNext()
         return;
     }
 
+    outputBefore_ = fileStamp(currentOutput_);
+    expectsOutput_ = !settings.advanced.contains(QStringLiteral("--measure"));
+    logStartOffset_ = settings.log_file.isEmpty() ? 0 : QFileInfo(settings.log_file).size();
+    cutOut_ = LongLineCutter();
+    cutErr_ = LongLineCutter();
+
     const QStringList args = buildEngineArgs(settings);
     log(tr("执行: %1 %2").arg(enginePath_, args.join(QLatin1Char(' '))));
     emit fileStateChanged(currentIndex_, Running);
@@ -170,7 +170,32 @@ void ConversionQueue::poll()
 {
     if (session_)
         session_->poll();
-    for (const SessionEvent& event : inbox_->drain()) {
+    QList<SessionEvent> news = inbox_->drain();
+    if (!news.isEmpty())
+        backlog_.push_back(std::move(news));
+    processBacklog();
+}
+
+void ConversionQueue::processBacklog()
+{
+    backlogQueued_ = false;
+    QElapsedTimer slice;
+    slice.start();
+    int handled = 0;
+    while (!backlog_.empty()) {
+        if (backlogNext_ >= backlog_.front().size()) {
+            backlog_.pop_front();
+            backlogNext_ = 0;
+            continue;
+        }
+        if ((++handled & 63) == 0 && slice.elapsed() >= kOutputSliceMs) {
+            if (!backlogQueued_) {
+                backlogQueued_ = true;
+                QTimer::singleShot(0, this, &ConversionQueue::processBacklog);
+            }
+            return;
+        }
+        const SessionEvent event = std::move(backlog_.front()[backlogNext_++]);
         if (event.kind == SessionEvent::Line)
             onEngineLine(event.text, event.fromStderr);
         else
@@ -180,7 +205,10 @@ void ConversionQueue::poll()
 
 void ConversionQueue::onEngineLine(const QString& raw, bool isStderr)
 {
-    QString line = raw;
+    std::optional<QString> whole = (isStderr ? cutErr_ : cutOut_).feed(raw);
+    if (!whole)
+        return;
+    QString line = std::move(*whole);
     line.remove(QLatin1Char('\r'));
     if (line.endsWith(QLatin1Char('\n')))
         line.chop(1);
@@ -203,10 +231,15 @@ void ConversionQueue::onEngineFinished(int exitCode, bool crashed)
         return;
     }
     stopConfirmTimer_->stop();
+    finishRunOutput();
 
     const QString name = QFileInfo(files_.value(currentIndex_)).fileName();
     const bool cleanStop = stopRequested_ && !crashed && confirmsStop(exitCode);
-    if (!crashed && exitCode == 0) {
+    if (!crashed && exitCode == 0 && !outputIsUsable(name)) {
+        showEngineLogTail();
+        emit fileStateChanged(currentIndex_, Failed);
+        ++failedCount_;
+    } else if (!crashed && exitCode == 0) {
         log(tr("✓ %1 完成").arg(name));
         emit fileStateChanged(currentIndex_, Done);
         ++doneCount_;
@@ -235,9 +268,46 @@ void ConversionQueue::onEngineFinished(int exitCode, bool crashed)
     queueRunNext();
 }
 
+void ConversionQueue::finishRunOutput()
+{
+    // A last line without its newline still belongs to the run.
+    if (std::optional<QString> rest = cutOut_.finish())
+        onEngineLine(*rest, false);
+    if (std::optional<QString> rest = cutErr_.finish())
+        onEngineLine(*rest, true);
+}
+
+bool ConversionQueue::outputIsUsable(const QString& name)
+{
+    if (!expectsOutput_)
+        return true;
+    const OutputCheck check = checkOutputFile(currentOutput_, outputBefore_);
+    switch (check.problem) {
+    case OutputCheck::None:
+        return true;
+    case OutputCheck::Missing:
+        logError(tr("✗ %1: 引擎报告完成, 但没有写出输出文件 %2").arg(name, currentOutput_));
+        break;
+    case OutputCheck::NotWritten:
+        logError(tr("✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)").arg(name, currentOutput_));
+        break;
+    case OutputCheck::Empty:
+    case OutputCheck::Unreadable: {
+        // Nothing usable was made; a broken file left behind would pass for a result.
+        const QString reason = check.problem == OutputCheck::Empty ? tr("文件是空的") : check.reason;
+        const bool removed = QFile::remove(currentOutput_);
+        logError((removed ? tr("✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3")
+                          : tr("✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3"))
+                     .arg(name, reason, currentOutput_));
+        break;
+    }
+    }
+    return false;
+}
+
 void ConversionQueue::showEngineLogTail()
 {
-    const QStringList lines = engineLogTail(panel_.log_file);
+    const QStringList lines = engineLogTail(panel_.log_file, logStartOffset_);
     if (lines.isEmpty())
         return;
     logError(tr("── 引擎日志 (末尾 %1 行): %2 ──").arg(lines.size()).arg(panel_.log_file));

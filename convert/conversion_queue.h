@@ -2,14 +2,17 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 
 #include "conversion_settings.h"
+#include "engine_output.h"
+#include "output_check.h"
+#include "session_inbox.h"
 
 class EngineSession;
-class SessionInbox;
 class QTimer;
 
 // Runs the engine once per queued file, one after another: builds each run's
@@ -39,6 +42,9 @@ public:
     void stopConversion();
     void sendControl(const QString& command);
     // Drains the session's output; called from the window's 150 ms timer.
+    // Each call works for a bounded time and leaves the rest of a flood of
+    // output to follow-up calls from the event loop, so that the window (and
+    // its Stop button) stays responsive while thousands of lines arrive.
     void poll();
     // Ends a running engine when the program closes.
     void shutDown();
@@ -64,6 +70,9 @@ private:
     ConversionSettings settingsForCurrentFile();
     void discardSession();
     void onStopConfirmationTimeout();
+    void processBacklog();
+    void finishRunOutput();
+    bool outputIsUsable(const QString& name);
 
     void log(const QString& text) { emit logLine(text, false); }
     void logError(const QString& text) { emit logLine(text, true); }
@@ -82,10 +91,20 @@ private:
     ConversionSettings panel_;
     QString enginePath_;
     QString currentOutput_;
+    FileStamp outputBefore_;     // the output as it was when the run started
+    bool expectsOutput_ = true;  // a measuring run writes none
+    qint64 logStartOffset_ = 0;  // the shared engine log's size when the run started
     QString outputFolder_;
     PresetLookup presetLookup_;
 
     EngineSession* session_ = nullptr;
     std::unique_ptr<SessionInbox> inbox_;
+    // Drained from the inbox, not handled yet: the drained lists as they came,
+    // so that a flood is never copied into one long list.
+    std::deque<QList<SessionEvent>> backlog_;
+    qsizetype backlogNext_ = 0; // in backlog_.front()
+    bool backlogQueued_ = false;
+    LongLineCutter cutOut_;
+    LongLineCutter cutErr_;
     QTimer* stopConfirmTimer_ = nullptr;
 };

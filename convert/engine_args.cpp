@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <charconv>
 #include <cstdarg>
 #include <cstdio>
 #include <mutex>
@@ -215,30 +216,47 @@ void setArgNoteSink(std::function<void(const char* utf8Line)> sink)
     g_sink = std::move(sink);
 }
 
+namespace {
+
+// printf's "%.Nf" without the process locale: the engine reads '.' as the
+// decimal point whatever language the desktop runs in. std::to_chars rounds
+// the exact binary value like printf and spells NaN, infinities and negative
+// zero the same way.
+void appendFixed(QByteArray& out, double value, int decimals)
+{
+    char buf[400]; // the longest "%f" of a double is 309 digits, a sign, a point and 6 decimals
+    const auto [end, ec] = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::fixed, decimals);
+    if (ec == std::errc())
+        out.append(buf, end - buf);
+}
+
+} // namespace
+
 QString formatEngineFloat(double value)
 {
-    // The C library's own "%f" so that NaN, infinities and negative zero come
-    // out exactly as the engine's parser expects them.
-    const int n = std::snprintf(nullptr, 0, "%f", value);
-    if (n <= 0)
-        return QString();
-    std::string buf(size_t(n) + 1, '\0');
-    std::snprintf(buf.data(), buf.size(), "%f", value);
-    buf.resize(size_t(n));
-    return QString::fromLatin1(buf.data(), qsizetype(buf.size()));
+    QByteArray text;
+    appendFixed(text, value, 6);
+    return QString::fromLatin1(text);
 }
 
 QString formatEqBands(const QList<EqBand>& bands)
 {
+    // Each band is formatted into a 128-byte buffer; longer text is cut there.
+    constexpr qsizetype kBandBytes = 127;
     QByteArray joined;
     for (qsizetype i = 0; i < bands.size(); ++i) {
         const EqBand& b = bands.at(i);
-        char buf[128];
-        std::snprintf(buf, sizeof buf, "%.0f,%.1f,%.1f%c", b.centerFreq, b.gainDB, b.bandwidth,
-                      b.bwType);
+        QByteArray band;
+        appendFixed(band, b.centerFreq, 0);
+        band += ',';
+        appendFixed(band, b.gainDB, 1);
+        band += ',';
+        appendFixed(band, b.bandwidth, 1);
+        if (b.bwType != '\0')
+            band += b.bwType;
         if (i > 0)
             joined += ';';
-        joined += buf;
+        joined += band.left(kBandBytes);
     }
     return QString::fromUtf8(joined);
 }

@@ -1,5 +1,6 @@
 #include "engine_output.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <algorithm>
@@ -30,7 +31,7 @@ int progressPerMille(double percent, int index, int total)
     return static_cast<int>(fraction * 1000.0);
 }
 
-QStringList engineLogTail(const QString& path)
+QStringList engineLogTail(const QString& path, qint64 fromOffset)
 {
     constexpr qint64 kTailBytes = 65536;
     constexpr int kMaxLines = 120;
@@ -39,9 +40,14 @@ QStringList engineLogTail(const QString& path)
     QFile file(path);
     if (!file.exists() || !file.open(QIODevice::ReadOnly))
         return {};
-    if (file.size() > kTailBytes) {
-        file.seek(file.size() - kTailBytes);
+    const qint64 size = file.size();
+    if (fromOffset < 0 || fromOffset > size)
+        fromOffset = 0; // replaced or cut short by someone else: all of it is this run's
+    if (size - fromOffset > kTailBytes) {
+        file.seek(size - kTailBytes);
         file.readLine(); // the rest of a line cut by the seek
+    } else {
+        file.seek(fromOffset);
     }
     QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     if (lines.size() > kMaxLines)
@@ -52,4 +58,39 @@ QStringList engineLogTail(const QString& path)
         line = line.trimmed();
     }
     return lines;
+}
+
+std::optional<QString> LongLineCutter::feed(const QString& piece)
+{
+    const bool complete = piece.endsWith(QLatin1Char('\n'));
+    if (!open_ && complete && piece.size() <= kMaxShown + 1)
+        return piece; // the usual case: a whole line of ordinary length
+    const qsizetype body = complete ? piece.size() - 1 : piece.size();
+    const qsizetype room = std::max<qsizetype>(0, kMaxShown - head_.size());
+    const qsizetype kept = std::min(room, body);
+    head_.append(QStringView(piece).first(kept));
+    dropped_ += body - kept;
+    open_ = !complete;
+    if (open_)
+        return std::nullopt;
+    return take();
+}
+
+std::optional<QString> LongLineCutter::finish()
+{
+    if (!open_)
+        return std::nullopt;
+    return take();
+}
+
+QString LongLineCutter::take()
+{
+    QString line = std::move(head_);
+    if (dropped_ > 0)
+        line += QCoreApplication::translate("ConversionQueue", " …(这一行太长, 后面 %1 个字符没有显示)").arg(dropped_);
+    line += QLatin1Char('\n');
+    head_.clear();
+    dropped_ = 0;
+    open_ = false;
+    return line;
 }

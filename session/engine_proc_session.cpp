@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kStartTimeoutMs = 3000;
 constexpr int kWriteWaitMs = 200;
+constexpr qsizetype kMaxPendingLine = 65536;
 
 } // namespace
 
@@ -138,15 +139,36 @@ void EngineProcSession::drain(QProcess::ProcessChannel channel)
         return;
     const bool fromStderr = channel == QProcess::StandardError;
     QByteArray& pending = fromStderr ? pendingErr_ : pendingOut_;
+    // Only the new bytes can hold a newline not seen yet, and the consumed
+    // lines go in one cut: a flood costs time in proportion to its size.
+    qsizetype start = 0;
+    qsizetype newline = pending.size();
     pending.append(bytes);
-
-    // A fragment after the last newline waits for the rest of its line; the
-    // engine ends every line it means to be seen.
     QList<QString> lines;
-    qsizetype newline;
-    while ((newline = pending.indexOf('\n')) >= 0) {
-        lines << QString::fromUtf8(pending.constData(), newline + 1);
-        pending.remove(0, newline + 1);
+    while ((newline = pending.indexOf('\n', newline)) >= 0) {
+        lines << QString::fromUtf8(pending.constData() + start, newline + 1 - start);
+        start = ++newline;
+    }
+    pending.remove(0, start);
+    // A fragment after the last newline waits for the rest of its line; the
+    // engine ends every line it means to be seen. One that never ends is
+    // handed on in pieces without a newline rather than held without bound.
+    if (pending.size() >= kMaxPendingLine) {
+        qsizetype cut = pending.size();
+        // Not inside a UTF-8 sequence: an incomplete one waits for its rest.
+        for (qsizetype i = cut - 1; i >= 0 && i >= cut - 4; --i) {
+            const uchar c = uchar(pending.at(i));
+            if ((c & 0xC0) == 0x80)
+                continue;
+            const int need = c >= 0xF0 ? 4 : c >= 0xE0 ? 3 : c >= 0xC0 ? 2 : 1;
+            if (pending.size() - i < need)
+                cut = i;
+            break;
+        }
+        if (cut == 0)
+            cut = pending.size();
+        lines << QString::fromUtf8(pending.constData(), cut);
+        pending.remove(0, cut);
     }
     for (const QString& line : std::as_const(lines))
         cb->line(line, fromStderr);

@@ -369,11 +369,18 @@ void readerMain(const std::shared_ptr<Run>& run)
 #endif
         if (n <= 0)
             break;
-        pending.append(chunk, static_cast<std::size_t>(n));
         // Only whole lines go out while the run lasts, so a line written in
         // two pieces (or cut by the chunk size) still reaches consumers as
-        // one line.
-        const std::size_t cut = pending.rfind('\n');
+        // one line. Only the new chunk is searched: a long line costs no
+        // rescans of what came before it.
+        std::size_t cut = std::string::npos;
+        for (std::size_t i = static_cast<std::size_t>(n); i-- > 0;) {
+            if (chunk[i] == '\n') {
+                cut = pending.size() + i;
+                break;
+            }
+        }
+        pending.append(chunk, static_cast<std::size_t>(n));
         if (cut != std::string::npos) {
             std::string lines = pending.substr(0, cut + 1);
             pending.erase(0, cut + 1);

@@ -2,6 +2,11 @@
 
 #include "engine_session.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
+#include <chrono>
+
 SessionInbox::SessionInbox()
     : store_(std::make_shared<Store>())
 {
@@ -9,9 +14,23 @@ SessionInbox::SessionInbox()
 
 SessionInbox::~SessionInbox() = default;
 
+namespace {
+
+bool onGuiThread()
+{
+    const QCoreApplication* app = QCoreApplication::instance();
+    return !app || QThread::currentThread() == app->thread();
+}
+
+} // namespace
+
 void SessionInbox::Store::push(SessionEvent event)
 {
-    std::lock_guard lock(mutex);
+    std::unique_lock lock(mutex);
+    if (throttling && events.size() >= kBacklog && !onGuiThread()) {
+        if (!drained.wait_for(lock, std::chrono::milliseconds(kMaxWaitMs), [this] { return events.size() < kBacklog; }))
+            throttling = false;
+    }
     events.append(std::move(event));
 }
 
@@ -60,8 +79,12 @@ void SessionInbox::detach(EngineSession& session)
 QList<SessionEvent> SessionInbox::drain()
 {
     QList<SessionEvent> out;
-    std::lock_guard lock(store_->mutex);
-    out.swap(store_->events);
+    {
+        std::lock_guard lock(store_->mutex);
+        out.swap(store_->events);
+        store_->throttling = true;
+    }
+    store_->drained.notify_all();
     return out;
 }
 

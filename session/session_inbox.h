@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include <condition_variable>
 #include <memory>
 #include <mutex>
 
@@ -19,8 +20,17 @@ struct SessionEvent {
     bool crashed = false;
 };
 
+// A producer on another thread waits while the GUI thread has kBacklog events
+// it has not drained yet: an engine inside the program that prints faster
+// than the window can show is slowed to the window's pace instead of filling
+// memory and taking the CPU the window needs. The wait gives up after
+// kMaxWaitMs and stays off until the next drain, so a GUI thread that is
+// itself waiting for the run (closing the program) is never deadlocked.
 class SessionInbox {
 public:
+    static constexpr qsizetype kBacklog = 50000;
+    static constexpr int kMaxWaitMs = 200;
+
     SessionInbox();
     ~SessionInbox();
     SessionInbox(const SessionInbox&) = delete;
@@ -44,7 +54,9 @@ public:
 private:
     struct Store {
         std::mutex mutex;
+        std::condition_variable drained;
         QList<SessionEvent> events;
+        bool throttling = true;
         void push(SessionEvent event);
     };
     std::shared_ptr<Store> store_;

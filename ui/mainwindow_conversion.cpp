@@ -16,6 +16,7 @@
 #include "engine_discovery.h"
 #include "file_list_widget.h"
 #include "io_panel.h"
+#include "preset_store.h"
 #include "run_controls.h"
 #include "start_checks.h"
 #include "startup_env.h"
@@ -106,6 +107,18 @@ void MainWindow::runAutorun(const QString& value, bool closeWhenDone)
     const QString output = parts.takeLast();
     appendLog(tr("AUTORUN: %1 个输入 → %2").arg(parts.size()).arg(output));
     closeAfterAutorun_ = closeWhenDone;
+    // Automation can give the run a preset, as a user would have loaded one.
+    if (const QString preset = qEnvironmentVariable("ZUVO_AI_PRESET"); !preset.isEmpty()) {
+        ConversionSettings base = settings_;
+        collectInto(base);
+        const PresetLoad read = PresetStore::load(preset, &base);
+        const bool ok = read.status == PresetLoad::Ok;
+        if (ok)
+            applySettings(read.settings);
+        appendLog(ok ? tr("AUTORUN 预设: %1").arg(preset)
+                     : tr("✗ AUTORUN 预设无法使用: %1 (%2)").arg(preset, read.error),
+                  !ok);
+    }
     if (QFileInfo(output).isDir() || output.endsWith(QLatin1Char('/')))
         io_->setOutputFolder(output);
     else

@@ -118,7 +118,7 @@ private slots:
 
     void perFilePresetsApplyOnTopOfThePanel()
     {
-        Run r("exit 0\n");
+        Run r("write-output\n");
         const QString good = r.dir.filePath("good.json");
         QFile g(good);
         QVERIFY(g.open(QIODevice::WriteOnly));
@@ -175,6 +175,75 @@ private slots:
         QVERIFY(r.log.contains("[log] [控制] stop"));
         // Not a stop the user asked for: the engine's 195 is a failure here.
         QVERIFY(r.log.contains("[err] ✗ 退出码: 195"));
+    }
+
+    // Exit code 0 is not enough: the file must be there, written by this run,
+    // and its header must read.
+    void successNeedsAReadableOutput_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<bool>("oldOutputThere");
+        QTest::addColumn<QString>("advanced");
+        QTest::addColumn<QString>("message"); // empty: the file is done
+        QTest::addColumn<bool>("outputRemains");
+        QTest::newRow("written") << "write-output\n" << false << "" << "" << true;
+        QTest::newRow("none written") << "exit 0\n" << false << "" << "没有写出输出文件" << false;
+        QTest::newRow("junk written") << "touch-output\n" << false << "" << "读不出来 (不是 DSF 文件), 已删除" << false;
+        QTest::newRow("old file left alone") << "exit 0\n" << true << "" << "没有被写过 (还是旧的)" << true;
+        QTest::newRow("measuring writes none") << "exit 0\n" << false << "--measure" << "" << false;
+    }
+    void successNeedsAReadableOutput()
+    {
+        QFETCH(QString, script);
+        QFETCH(bool, oldOutputThere);
+        QFETCH(QString, advanced);
+        QFETCH(QString, message);
+        QFETCH(bool, outputRemains);
+        Run r(script);
+        ConversionSettings panel;
+        panel.output_dir = r.dir.filePath("out");
+        if (!advanced.isEmpty())
+            panel.advanced.insert(advanced, QString());
+        const QString output = r.dir.filePath("out/a.dsf");
+        if (oldOutputThere) {
+            QDir().mkpath(r.dir.filePath("out"));
+            QFile old(output);
+            QVERIFY(old.open(QIODevice::WriteOnly));
+            old.write("a file of an earlier run");
+            old.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime);
+        }
+        ConversionQueue queue;
+        r.exec(queue, {r.input("a.wav")}, panel);
+        QCOMPARE(r.done, message.isEmpty() ? 1 : 0);
+        QCOMPARE(r.failed, message.isEmpty() ? 0 : 1);
+        QCOMPARE(r.states.last().second, int(message.isEmpty() ? ConversionQueue::Done : ConversionQueue::Failed));
+        const QStringList errors = r.log.filter("[err] ✗ a.wav: 引擎报告完成, 但");
+        QCOMPARE(errors.size(), message.isEmpty() ? 0 : 1);
+        if (!message.isEmpty())
+            QVERIFY2(errors.first().contains(message), qPrintable(errors.first()));
+        QCOMPARE(QFile::exists(output), outputRemains);
+    }
+
+    // One runaway line is shown once, cut, in both kinds of session.
+    void overlongLineIsCutOnce_data()
+    {
+        QTest::addColumn<bool>("inProcess");
+        QTest::newRow("child process") << false;
+        QTest::newRow("in process") << true;
+    }
+    void overlongLineIsCutOnce()
+    {
+        QFETCH(bool, inProcess);
+        Run r("long 300000\nout after\nwrite-output\n", inProcess);
+        ConversionSettings panel;
+        panel.output_dir = r.dir.filePath("out");
+        ConversionQueue queue;
+        r.exec(queue, {r.input("a.wav")}, panel);
+        const QStringList cut = r.log.filter("xxxx");
+        QCOMPARE(cut.size(), 1);
+        QCOMPARE(cut.first(), "[log] " + QString(8192, 'x') + " …(这一行太长, 后面 291808 个字符没有显示)");
+        QVERIFY(r.log.contains("[log] after"));
+        QCOMPARE(r.done, 1);
     }
 };
 

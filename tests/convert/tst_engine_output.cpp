@@ -70,6 +70,9 @@ private slots:
         f.write("\nfirst whole line\nsecond\n");
         f.close();
         QCOMPARE(engineLogTail(path), (QStringList{"first whole line", "second"}));
+        // Only what the failed run appended; a log cut short since is all its own.
+        QCOMPARE(engineLogTail(path, 70000 + 17), (QStringList{"second"}));
+        QCOMPARE(engineLogTail(path, 1 << 20), (QStringList{"first whole line", "second"}));
         QCOMPARE(engineLogTail(dir.filePath("missing.log")), QStringList());
         QCOMPARE(engineLogTail(QString()), QStringList());
     }

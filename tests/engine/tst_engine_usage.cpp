@@ -25,6 +25,8 @@ private slots:
     void unknownOptionRefused();
     void badValuesRefused_data();
     void badValuesRefused();
+    void largestValuesAccepted_data();
+    void largestValuesAccepted();
     void mashOrderIsOptional();
     void designErrorIsUsageError();
     void outputEqualToInputRefused();
@@ -158,6 +160,30 @@ void EngineUsageTest::badValuesRefused()
     QCOMPARE(r.exitCode, 2);
     QVERIFY2(r.err.contains(mentioned), qPrintable(r.err));
     QVERIFY(!QFile::exists(out));
+}
+
+void EngineUsageTest::largestValuesAccepted_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("track 998") << QStringList{"--track", "998"};
+    QTest::newRow("oversampling 8192") << QStringList{"--oversampling", "8192"};
+    QTest::newRow("order 64") << QStringList{"--order", "64"};
+    QTest::newRow("stopgain-alpha 400") << QStringList{"--stopgain-alpha", "400"};
+    QTest::newRow("beta 100") << QStringList{"--window-type", "kaiser", "--beta", "100"};
+    QTest::newRow("abs 1000") << QStringList{"--abs", "1000"};
+    QTest::newRow("absdb 60") << QStringList{"--absdb", "60"};
+    QTest::newRow("taps 4194304") << QStringList{"--taps", "4194304"};
+}
+
+void EngineUsageTest::largestValuesAccepted()
+{
+    // The options pass; the missing input is what ends the run, so no
+    // conversion at the extreme setting has to happen.
+    QFETCH(QStringList, options);
+    const QString out = dir_.filePath("largest.dsf");
+    const RunResult r = runEngine(QStringList{"-i", dir_.filePath("absent.wav")} + options + QStringList{out});
+    QVERIFY2(r.exitCode == 1 && r.err.contains("absent.wav"), qPrintable(r.err));
+    QVERIFY(!r.err.contains(options.at(options.size() - 2)));
 }
 
 void EngineUsageTest::mashOrderIsOptional()

@@ -66,6 +66,7 @@ private slots:
     void carriesAnInProcessRun();
     void detachedSessionReachesNothing();
     void inboxMayGoFirst();
+    void fastProducerWaitsForDrains();
 };
 
 void TestSessionInbox::drainGivesArrivalOrderOnce()
@@ -178,6 +179,35 @@ void TestSessionInbox::inboxMayGoFirst()
     QVERIFY(session.waitForFinished(5000));
     session.poll();
     QVERIFY(!session.isRunning());
+}
+
+void TestSessionInbox::fastProducerWaitsForDrains()
+{
+    // A producer thread ahead of the GUI thread by a full backlog waits for
+    // the next drain; without drains it waits once, briefly, and goes on.
+    SessionInbox inbox;
+    std::atomic<int> pushed{0};
+    const int total = int(SessionInbox::kBacklog) + 10;
+    std::thread producer([&] {
+        for (int i = 0; i < total; ++i, ++pushed)
+            inbox.pushLine(QStringLiteral("x"), false);
+    });
+    QTRY_COMPARE(pushed.load(), int(SessionInbox::kBacklog));
+    std::this_thread::sleep_for(50ms);
+    QCOMPARE(pushed.load(), int(SessionInbox::kBacklog));
+    QCOMPARE(inbox.drain().size(), SessionInbox::kBacklog);
+    producer.join();
+    QCOMPARE(inbox.drain().size(), qsizetype(10));
+
+    QElapsedTimer t;
+    t.start();
+    std::thread unattended([&] {
+        for (int i = 0; i < 2 * total; ++i)
+            inbox.pushLine(QStringLiteral("y"), false);
+    });
+    unattended.join();
+    QVERIFY(t.elapsed() >= SessionInbox::kMaxWaitMs - 20 && t.elapsed() < 10000); // once, not per line
+    QCOMPARE(inbox.drain().size(), qsizetype(2 * total));
 }
 
 QTEST_GUILESS_MAIN(TestSessionInbox)

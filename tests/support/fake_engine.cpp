@@ -87,6 +87,32 @@ std::vector<std::string> scriptForRun(int run)
     return hasOwn ? own : common;
 }
 
+// A complete, minimal DSF: stereo DSD64, one 4096-byte block per channel of silence.
+void writeDsf(const std::string& path)
+{
+    std::string b;
+    const auto le = [&](unsigned long long v, int n) {
+        for (int i = 0; i < n; ++i)
+            b += static_cast<char>((v >> (8 * i)) & 0xFF);
+    };
+    const unsigned long long data = 2 * 4096;
+    b += "DSD ";
+    le(28, 8);
+    le(92 + data, 8);
+    le(0, 8);
+    b += "fmt ";
+    le(52, 8);
+    for (unsigned v : {1u, 0u, 2u, 2u, 2822400u, 1u})
+        le(v, 4);
+    le(4096 * 8, 8);
+    le(4096, 4);
+    le(0, 4);
+    b += "data";
+    le(12 + data, 8);
+    b.append(data, static_cast<char>(0x69));
+    std::ofstream(path, std::ios::binary) << b;
+}
+
 std::string optionValue(const std::vector<std::string>& args, const std::string& name)
 {
     for (std::size_t i = 1; i + 1 < args.size(); ++i)
@@ -157,6 +183,28 @@ int fake_engine_run(int argc, char** argv)
 #ifndef _WIN32
             std::signal(SIGTERM, SIG_IGN);
 #endif
+        } else if (cmd == "flood") {
+            // Buffered like a real engine's output: the host sees it in
+            // whatever pieces the stream and the pipe make of it.
+            long long count = 0;
+            std::istringstream in(rest);
+            in >> count >> std::ws;
+            std::string text;
+            std::getline(in, text);
+            for (long long i = 0; i < count; ++i) {
+                if (i % 1024 == 0 && control.stopRequested())
+                    return 195;
+                std::fprintf(stdout, "%s %lld\n", text.c_str(), i);
+            }
+            std::fflush(stdout);
+        } else if (cmd == "long") {
+            const std::string line(static_cast<std::size_t>(std::atoll(rest.c_str())), 'x');
+            std::fwrite(line.data(), 1, line.size(), stdout);
+            std::fputc('\n', stdout);
+            std::fflush(stdout);
+        } else if (cmd == "write-output") {
+            if (args.size() > 1)
+                writeDsf(args.back());
         } else if (cmd == "crash") {
             std::fflush(nullptr);
             std::abort();

@@ -14,7 +14,10 @@
 //   sleep MS
 //   wait-stop MS [CODE]   wait up to MS for "stop"; on it exit with CODE (195)
 //   log TEXT              append a line to the --log-file path
-//   touch-output          create the output file (last argument)
+//   touch-output          create the output file (last argument) with junk in it
+//   write-output          write a complete, minimal DSF as the output
+//   flood N TEXT          N buffered lines "TEXT i"; ends early (195) on "stop"
+//   long N                one line of N characters
 //   crash                 abort()
 //   ignore-term           ignore SIGTERM (a child that only a kill ends)
 //   exit N                exit code (default 0 at the end of the script)

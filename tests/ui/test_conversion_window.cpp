@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QProgressBar>
 #include <QStatusBar>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -19,6 +21,7 @@
 #include "conversion_queue.h"
 #include "file_list_widget.h"
 #include "io_panel.h"
+#include "log_pane.h"
 #include "mainwindow.h"
 
 namespace {
@@ -139,7 +142,9 @@ private slots:
     void failedFileDoesNotStopTheQueue()
     {
         QFETCH(bool, inProcess);
-        Harness h(inProcess, "out working\n"
+        Harness h(inProcess, "log a line of a run that went well\n"
+                             "out working\n"
+                             "write-output\n"
                              "[run 2]\n"
                              "log first engine log line\n"
                              "log   the reason it failed  \n"
@@ -153,7 +158,9 @@ private slots:
         const QString log = h.log();
         QVERIFY2(log.contains("[log] ✓ a.wav 完成\n"), qPrintable(log));
         QVERIFY(log.contains("[err] ✗ 退出码: 7\n"));
+        // The engine log is shared by the runs; the tail is the failed run's alone.
         QVERIFY(log.contains("[err] ── 引擎日志 (末尾 2 行): " + h.engineLog + " ──\n"));
+        QVERIFY(!log.contains("[err]   a line of a run that went well"));
         QVERIFY(log.contains("[err]   the reason it failed\n"));
         QVERIFY(log.contains("[log] ✓ c.flac 完成\n"));
         QVERIFY(log.contains("完成: 2 OK, 1 失败"));
@@ -192,8 +199,8 @@ private slots:
         QFETCH(bool, inProcess);
         QFETCH(int, files);
         QFETCH(int, expected);
-        const QString slowRun = "err [PROGRESS] 10\nsleep 100\nout [PROGRESS] 42.5\nsleep 1500\nexit 0\n";
-        Harness h(inProcess, files == 1 ? slowRun : "exit 0\n[run 2]\n" + slowRun);
+        const QString slowRun = "err [PROGRESS] 10\nsleep 100\nout [PROGRESS] 42.5\nsleep 1500\nwrite-output\n";
+        Harness h(inProcess, files == 1 ? slowRun : "write-output\n[run 2]\n" + slowRun);
         QStringList names;
         for (int i = 0; i < files; ++i)
             names << QString("f%1.wav").arg(i);
@@ -224,7 +231,8 @@ private slots:
         QVERIFY2(log.contains("[log] 终止当前转换进程…\n"), qPrintable(log));
         QVERIFY(log.contains("[log] ■ 已停止(强制结束进程): a.wav\n"));
         QVERIFY(log.contains("[log] 停止: 剩余 1 个文件已跳过\n"));
-        QVERIFY(log.contains("[log] 转换已停止\n"));
+        // The stopped file counts as done, the skipped one as failed.
+        QVERIFY(log.contains("[log] \n完成: 1 OK, 1 失败\n[log] 转换已停止\n"));
         QVERIFY(QFile::exists(h.outDir + "/a.dsf"));
         QCOMPARE(h.recordedRuns().size(), 1);
         QCOMPARE(marks(w).first(), QString("■ "));
@@ -249,23 +257,28 @@ private slots:
 
     void stopNotConfirmedInProcessWarnsAndKeepsWaiting()
     {
-        Harness h(true, "out [PROGRESS] 10\nsleep 3500\nexit 0\n");
+        Harness h(true, "out [PROGRESS] 10\nsleep 3500\nwrite-output\n");
         MainWindow w;
-        w.runAutorun(h.autorun({"a.wav"}), false);
-        QTRY_COMPARE_WITH_TIMEOUT(progress(w), 100, 10000);
+        w.runAutorun(h.autorun({"a.wav", "b.wav", "c.wav"}), false);
+        QTRY_COMPARE_WITH_TIMEOUT(progress(w), 33, 10000);
         QElapsedTimer t;
         t.start();
         w.stopConversion();
+        // The engine is only asked: the button's handler must not wait for it.
+        QVERIFY2(t.elapsed() < 200, qPrintable(QString::number(t.elapsed())));
         QTRY_VERIFY_WITH_TIMEOUT(h.log().contains("[err] 引擎 2 秒内没有确认停止 —— 仍在收尾(可再点一次, 或关闭程序)。\n"), 5000);
         QVERIFY(t.elapsed() >= 1900);
         QVERIFY(converting(w));
         QTRY_VERIFY_WITH_TIMEOUT(!converting(w), 10000);
-        QVERIFY(h.log().contains("[log] 转换已停止\n"));
+        // The engine finished its file after all; the two never started count as failed.
+        QVERIFY(h.log().contains("[log] ✓ a.wav 完成\n[log] 停止: 剩余 2 个文件已跳过\n[log] \n完成: 1 OK, 2 失败\n"
+                                 "[log] 转换已停止\n"));
+        QCOMPARE(h.recordedRuns().size(), 1);
     }
 
     void buttonsDriveAQueueLikeAUser()
     {
-        Harness h(true, "out [PROGRESS] 50\nexit 0\n");
+        Harness h(true, "out [PROGRESS] 50\nwrite-output\n");
         MainWindow w;
         w.show();
         auto* io = w.findChild<InputOutputPanel*>();
@@ -331,6 +344,29 @@ private slots:
         emit io->clearRequested();
         QCOMPARE(list->count(), 0);
         QCOMPARE(w.findChild<QLabel*>("fileCount")->text(), QString("0 个文件"));
+    }
+
+    void logPaneKeepsTheNewestLinesInTheirColours()
+    {
+        Harness h(true, "exit 0\n");
+        LogPane pane;
+        pane.append("", false);
+        for (int i = 0; i < 25000; ++i)
+            pane.append(QString("line %1").arg(i), i % 1000 == 999);
+        QVERIFY(pane.hasPending()); // drawn from the event loop, in slices
+        QTRY_VERIFY_WITH_TIMEOUT(!pane.hasPending(), 10000);
+        QTextDocument* doc = pane.document();
+        QCOMPARE(doc->blockCount(), LogPane::kMaxBlocks);
+        QCOMPARE(doc->firstBlock().text(), QString("line 5000"));
+        QCOMPARE(doc->lastBlock().text(), QString("line 24999"));
+        QCOMPARE(doc->lastBlock().begin().fragment().charFormat().foreground().color(), QColor(200, 60, 60));
+        QVERIFY(doc->lastBlock().previous().begin().fragment().charFormat().foreground().color()
+                != QColor(200, 60, 60));
+        // Every line reached the mirror, in order, the blank first one included.
+        const QStringList mirrored = h.log().split('\n');
+        QCOMPARE(mirrored.size(), 25002);
+        QCOMPARE(mirrored.at(0), QString("[log] "));
+        QCOMPARE(mirrored.at(25000), QString("[err] line 24999"));
     }
 
 private:

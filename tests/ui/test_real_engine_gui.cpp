@@ -27,6 +27,40 @@ QJsonObject probe(const QString& path)
     return QJsonDocument::fromJson(p.readAllStandardOutput())["streams"].toArray().first().toObject();
 }
 
+struct AppRun {
+    int exitCode = -1;
+    QString log;    // the log-pane mirror
+    QString stderrText;
+};
+
+// The program started by a user's automation: convert `inputs` into a
+// folder `out`, closing when done.
+AppRun runApp(const QTemporaryDir& dir, const QStringList& inputs, const QMap<QString, QString>& extraEnv)
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.insert("ZUVO_NO_UPDATE_CHECK", "1");
+    env.insert("ZUVO_SETTINGS_DIR", dir.filePath("settings"));
+    env.insert("ZUVO_AI_GUI_LOG", dir.filePath("gui.log"));
+    env.insert("ZUVO_AI_AUTORUN", inputs.join('|') + "|" + dir.filePath("out") + "/");
+    env.insert("ZUVO_AI_AUTOCLOSE", "1");
+    env.remove("ZUVO_ENGINE_BIN");
+    for (auto it = extraEnv.begin(); it != extraEnv.end(); ++it)
+        env.insert(it.key(), it.value());
+    QProcess app;
+    app.setProcessEnvironment(env);
+    app.start(ZUVO_APP_PATH);
+    AppRun r;
+    if (!app.waitForFinished(120000) || app.exitStatus() != QProcess::NormalExit)
+        return r;
+    r.exitCode = app.exitCode();
+    r.stderrText = QString::fromUtf8(app.readAllStandardError());
+    QFile log(dir.filePath("gui.log"));
+    if (log.open(QIODevice::ReadOnly))
+        r.log = QString::fromUtf8(log.readAll());
+    return r;
+}
+
 } // namespace
 
 class TestRealEngineGui : public QObject {
@@ -50,25 +84,9 @@ private slots:
         QVERIFY(makeTone(a, 44100, "pcm_s24le"));
         QVERIFY(makeTone(b, 48000, "flac"));
 
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("QT_QPA_PLATFORM", "offscreen");
-        env.insert("ZUVO_NO_UPDATE_CHECK", "1");
-        env.insert("ZUVO_SETTINGS_DIR", dir.filePath("settings"));
-        env.insert("ZUVO_GUI_INPROC", inproc);
-        env.insert("ZUVO_AI_GUI_LOG", dir.filePath("gui.log"));
-        env.insert("ZUVO_AI_AUTORUN", a + "|" + b + "|" + dir.filePath("out") + "/");
-        env.insert("ZUVO_AI_AUTOCLOSE", "1");
-        env.remove("ZUVO_ENGINE_BIN");
-        QProcess app;
-        app.setProcessEnvironment(env);
-        app.start(ZUVO_APP_PATH);
-        QVERIFY(app.waitForFinished(120000));
-        QCOMPARE(app.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(app.exitCode(), 0);
-
-        QFile log(dir.filePath("gui.log"));
-        QVERIFY(log.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(log.readAll());
+        const AppRun run = runApp(dir, {a, b}, {{"ZUVO_GUI_INPROC", inproc}});
+        QCOMPARE(run.exitCode, 0);
+        const QString& text = run.log;
         QVERIFY2(text.endsWith("[log] \n全部完成: 2 OK\n"), qPrintable(text));
         QVERIFY(text.contains(inproc == "0" ? "转换会话: 子进程(起 CLI)" : "转换会话: 进程内(直接调库)"));
 
@@ -80,6 +98,43 @@ private slots:
             QCOMPARE(stream["sample_rate"].toString(), QString("352800"));
             QVERIFY(qAbs(stream["duration"].toString().toDouble() - 1.5) < 0.02);
         }
+    }
+
+    // A desktop with a decimal-comma locale: the floats of a preset reach the
+    // engine with decimal points and the file converts.
+    void floatOptionsUnderADecimalCommaLocale_data() { autorunConvertsIntoAFolder_data(); }
+    void floatOptionsUnderADecimalCommaLocale()
+    {
+        QFETCH(QString, inproc);
+        QTemporaryDir dir;
+        const QString a = dir.filePath("a.wav");
+        QVERIFY(makeTone(a, 44100, "pcm_s24le"));
+        QFile preset(dir.filePath("floats.json"));
+        QVERIFY(preset.open(QIODevice::WriteOnly));
+        preset.write(R"({"algorithm": "window", "window_type": "kaiser", "beta": 8.5,
+                         "stopgain_alpha": 140.5, "abs_db_value": -0.5})");
+        preset.close();
+        const AppRun run = runApp(dir, {a}, {{"ZUVO_GUI_INPROC", inproc}, {"LC_ALL", "de_DE.UTF-8"},
+                                             {"ZUVO_AI_PRESET", preset.fileName()}});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.log.contains("[log] ✓ a.wav 完成\n"), qPrintable(run.log));
+        QVERIFY(run.log.contains("--stopgain-alpha 140.500000 --window-type kaiser --beta 8.500000 --order 9 "
+                                 "--unpredistortion -pdfrp --absdb -0.500000 "));
+        QCOMPARE(probe(dir.filePath("out/a.dsf"))["codec_name"].toString(), QString("dsd_lsbf_planar"));
+    }
+
+    // While the engine runs inside the program, descriptor 2 belongs to it;
+    // the program's own Qt messages must still go to the real standard error.
+    void qtMessagesStayOutOfTheEngineLog()
+    {
+        QTemporaryDir dir;
+        const QString a = dir.filePath("a.wav");
+        QVERIFY(makeTone(a, 44100, "pcm_s24le"));
+        const AppRun run = runApp(dir, {a}, {{"ZUVO_GUI_INPROC", "1"}, {"QT_LOGGING_RULES", "qt.text.font.*=true"}});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.log.contains("[log] ✓ a.wav 完成\n"), qPrintable(run.log));
+        QVERIFY2(!run.log.contains("qt.text.font"), qPrintable(run.log));
+        QVERIFY(run.stderrText.contains("qt.text.font"));
     }
 };
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dsp/dsd_pipeline.h"
+#include "effects/effect_options.h"
 #include "io/tags.h"
 
 namespace zuvo::cli {
@@ -45,6 +46,7 @@ struct EngineOptions {
     dsp::ModulatorOptions modulator;
     std::optional<double> gain; // linear; absent = automatic
     bool predistortion = true;
+    effects::EffectOptions effects; // equaliser, tone, channels, stereo image
 
     // PCM outputs (reverse and DXD).
     bool flac = false;       // --format flac

@@ -190,4 +190,60 @@ double EffectChain::worstCaseGain() const
     return worst;
 }
 
+std::size_t EffectChain::run(Planar& block, std::size_t n)
+{
+    process(block, n);
+    const std::size_t drop = std::min(toDrop_, n);
+    if (drop > 0) {
+        for (auto& ch : block)
+            ch.erase(ch.begin(), ch.begin() + static_cast<std::ptrdiff_t>(drop));
+        toDrop_ -= drop;
+    }
+    for (auto& ch : block)
+        ch.resize(n - drop);
+    return n - drop;
+}
+
+std::size_t EffectChain::drain(Planar& block)
+{
+    const std::size_t n = latency();
+    block.assign(static_cast<std::size_t>(ins_), std::vector<double>(n, 0.0));
+    return run(block, n);
+}
+
+void EffectChain::addLimiter(double ceiling)
+{
+    stages_.push_back(PeakLimiter(outs_, fs_, ceiling));
+    toDrop_ += std::get<PeakLimiter>(stages_.back()).latency();
+    lines_.push_back(fmt("  safety limiter: ceiling %+.2f dB (0.25 dB above the sine bound), true-peak estimate, %.1f ms look-ahead, "
+                         "%.0f ms release", 20 * std::log10(ceiling), kLimiterLookaheadMs, kLimiterReleaseMs));
+}
+
+std::size_t EffectChain::latency() const
+{
+    std::size_t total = 0;
+    for (const Stage& s : stages_)
+        if (const auto* l = std::get_if<PeakLimiter>(&s))
+            total += l->latency();
+    return total;
+}
+
+std::uint64_t EffectChain::limitedSamples() const
+{
+    std::uint64_t total = 0;
+    for (const Stage& s : stages_)
+        if (const auto* l = std::get_if<PeakLimiter>(&s))
+            total += l->limitedSamples();
+    return total;
+}
+
+double EffectChain::smallestLimiterGain() const
+{
+    double g = 1.0;
+    for (const Stage& s : stages_)
+        if (const auto* l = std::get_if<PeakLimiter>(&s))
+            g = std::min(g, l->smallestGain());
+    return g;
+}
+
 } // namespace zuvo::effects

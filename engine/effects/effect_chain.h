@@ -10,7 +10,9 @@
 // sum over input channels of |H(out, in)(f)|, evaluated on the stages' exact
 // frequency responses (a fine grid plus every band centre). The encoder's
 // automatic gain divides by it, so a full-scale sine at any frequency, on
-// any channels, in any phase, stays inside the modulator's stable range.
+// any channels, in any phase, stays inside the modulator's stable range; a
+// safety limiter (peak_limiter.h) at that same ceiling catches what is not a
+// sine (a full-scale square wave through a boost).
 
 #include <string>
 #include <variant>
@@ -19,11 +21,12 @@
 #include "effects/channel_stages.h"
 #include "effects/effect_options.h"
 #include "effects/filter_stage.h"
+#include "effects/peak_limiter.h"
 #include "effects/stereo_stages.h"
 
 namespace zuvo::effects {
 
-using Stage = std::variant<FilterStage, MixStage, SurroundDeriveStage, WidthStage, SurroundStage>;
+using Stage = std::variant<FilterStage, MixStage, SurroundDeriveStage, WidthStage, SurroundStage, PeakLimiter>;
 
 // Fixed bands of the advanced equaliser.
 constexpr double kEqBassHz = 80.0;      // low shelf, Q 0.7071
@@ -47,8 +50,22 @@ public:
     // outChannels() vectors of n samples on return.
     void process(Planar& block, std::size_t n);
 
+    // process() with the latency hidden: the first latency() output frames
+    // are dropped; returns how many frames `block` holds afterwards.
+    std::size_t run(Planar& block, std::size_t n);
+    // At the end: pushes latency() silent frames through and returns the
+    // frames that come out (the input's last ones).
+    std::size_t drain(Planar& block);
+
     ResponseMatrix response(double hz) const;
     double worstCaseGain() const;
+    // Appends the safety limiter with this ceiling (chain-output units).
+    void addLimiter(double ceiling);
+    // Samples by which the output lags the input (the limiter's look-ahead).
+    std::size_t latency() const;
+    // Samples the limiter turned down and its smallest gain (1 = never).
+    std::uint64_t limitedSamples() const;
+    double smallestLimiterGain() const;
     // One line per stage, for the log.
     const std::vector<std::string>& description() const { return lines_; }
 
@@ -59,6 +76,7 @@ private:
     double fs_ = 44100;
     double maxDelaySeconds_ = 0;
     int ins_ = 0, outs_ = 0;
+    std::size_t toDrop_ = 0;
 };
 
 } // namespace zuvo::effects

@@ -125,6 +125,10 @@ int runForward(RunContext& ctx)
             ctx.log.line("%s", line.c_str());
         ctx.log.line("effects: worst-case gain %+.2f dB (largest sum of |H| over inputs, any frequency)",
                      20 * std::log10(config.effectGain));
+        if (config.effectGain > 1.0) {
+            chain.addLimiter(config.effectGain * effects::kLimiterCeilingMargin);
+            ctx.log.line("%s", chain.description().back().c_str());
+        }
     }
     auto design = dsp::designForward(config, &error);
     if (!design) {
@@ -209,11 +213,11 @@ int runForward(RunContext& ctx)
                 takeChannel(interleaved, channels, source[c], n, planar[c]);
                 levels[c].add(planar[c].data(), n, 1);
             }
-            chain.process(planar, n);
+            const std::size_t ready = chain.run(planar, n);
             pool.run(outChannels, [&](int ci) {
                 const auto c = static_cast<std::size_t>(ci);
                 bytes[c].clear();
-                encoders[c].process(planar[c].data(), n, bytes[c]);
+                encoders[c].process(planar[c].data(), ready, bytes[c]);
             });
         }
         if (!writer->write(bytes, &error)) {
@@ -228,9 +232,12 @@ int runForward(RunContext& ctx)
             ctx.progress.update(100.0 * static_cast<double>(done) / static_cast<double>(in.frames), speed);
     }
     if (!stopped) {
+        const std::size_t tail = chain.empty() ? 0 : chain.drain(planar);
         pool.run(outChannels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
             bytes[c].clear();
+            if (tail > 0)
+                encoders[c].process(planar[c].data(), tail, bytes[c]);
             encoders[c].finish(bytes[c]);
         });
         if (!writer->write(bytes, &error)) {
@@ -260,6 +267,9 @@ int runForward(RunContext& ctx)
         ctx.log.line("output channel %zu: modulator peak input %.4f, overloads %llu, resets %llu", c + 1, st.peakInput,
                      static_cast<unsigned long long>(st.overloads), static_cast<unsigned long long>(st.resets));
     }
+    if (!chain.empty() && chain.limitedSamples() > 0)
+        ctx.log.line("safety limiter: %llu sample(s) turned down, by at most %.2f dB",
+                     static_cast<unsigned long long>(chain.limitedSamples()), -20 * std::log10(chain.smallestLimiterGain()));
     if (overloads > 0)
         report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
                static_cast<unsigned long long>(overloads));

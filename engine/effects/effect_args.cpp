@@ -197,6 +197,20 @@ bool parseEffectOption(const std::vector<std::string>& args, std::size_t& i, Eff
             o.stereoCrossfeed = x;
             o.stereo = true;
         }
+    } else if (a == "--dsre") {
+        o.dsre = true;
+        if (r.optionalNumber(x)) {
+            if (x < 0 || x > 1)
+                r.error("the mix must be from 0 to 1");
+            else
+                o.dsreMix = x;
+        }
+    } else if (a == "--dsre-mix") {
+        // A fraction 0..1, or a percentage above 1 (the window's field is whole numbers).
+        if (r.number(0, 100, x)) {
+            o.dsre = true;
+            o.dsreMix = x > 1 ? x / 100.0 : x;
+        }
     } else if (a == "--surround") {
         SurroundOptions& sr = o.surround;
         sr.on = true;

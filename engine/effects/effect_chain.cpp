@@ -116,6 +116,12 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
     if (!tone.empty())
         stages_.push_back(FilterStage("tone", 1.0, std::move(tone), ins));
 
+    if (o.dsre && o.dsreMix > 0) {
+        stages_.push_back(DsreStage(ins, fs, o.dsreMix));
+        lines_.push_back(fmt("  dsre: mix %.3f, second harmonics of %.0f-%.0f Hz at %.1f dB x mix, above %.0f Hz",
+                             o.dsreMix, kDsreLowHz, kDsreHighHz, 20 * std::log10(kDsreLevel), kDsreOutHz));
+    }
+
     // Channels.
     if (outs_ != ins) {
         stages_.push_back(MixStage(ins, outs_, remixMatrix(ins, outs_)));

@@ -2,7 +2,7 @@
 // The effect chain in the 64-bit float path before the modulator: a plain
 // list of stages run in order on each block, at the input rate.
 //
-// Order: pre-cut and equalisers -> tone -> channel re-mix -> surround
+// Order: pre-cut and equalisers -> tone -> DSRE -> channel re-mix -> surround
 // derivation -> stereo width and crossfeed -> surround ambience.
 //
 // Headroom: worstCaseGain() bounds the level a full-scale input can reach at
@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "effects/channel_stages.h"
+#include "effects/dsre_stage.h"
 #include "effects/effect_options.h"
 #include "effects/filter_stage.h"
 #include "effects/peak_limiter.h"
@@ -26,7 +27,8 @@
 
 namespace zuvo::effects {
 
-using Stage = std::variant<FilterStage, MixStage, SurroundDeriveStage, WidthStage, SurroundStage, PeakLimiter>;
+using Stage =
+    std::variant<FilterStage, DsreStage, MixStage, SurroundDeriveStage, WidthStage, SurroundStage, PeakLimiter>;
 
 // Fixed bands of the advanced equaliser.
 constexpr double kEqBassHz = 80.0;      // low shelf, Q 0.7071

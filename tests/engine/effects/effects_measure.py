@@ -8,7 +8,7 @@ effect's closed-form definition, computed here with numpy from the
 documented formulas. The decoder's own response cancels in the ratio.
 
 Usage: effects_measure.py ENGINE CASE   (CASE: eq, eq-advanced, tone, width,
-crossfeed, surround, channels, unsrs, headroom, headroom-square, snr, refusals)
+crossfeed, surround, channels, unsrs, headroom, headroom-square, dsre, snr, refusals)
 """
 import math
 import os
@@ -416,10 +416,37 @@ def case_refusals(eng):
     refused(two, ['--eq', ';'.join(['1000,1.0,1.0q'] * 11)], '.dsf', ['11 bands'], '11 --eq bands')
 
 
+def case_dsre(eng):
+    A = 0.1
+    ref_in = tones([[(5000, A, 0.0), (10000, A, 0.0)], [(200, A, 0.0), (400, A, 0.0)]])
+    dsre_in = tones([[(5000, A, 0.0)], [(200, A, 0.0)]])
+    gain = ['--absdb', '-12']
+    ref, _ = eng.convert(ref_in, gain)
+    out, log = eng.convert(dsre_in, gain + ['--dsre', '1.000000'])
+    xr, xo = decode(ref, 2), decode(out, 2)
+
+    def hp(fc, f):
+        return 1 - one_pole(fc, f)
+
+    for c, f in ((0, 5000), (1, 200)):
+        # Decoder response at f and 2f, from the reference's known tones.
+        d1, d2 = phasor(xr[:, c], f) / A, phasor(xr[:, c], 2 * f) / A
+        fund = abs(phasor(xo[:, c], f) / d1) / A
+        harm = abs(phasor(xo[:, c], 2 * f) / d2) / A
+        side = abs(hp(2500, f) ** 2 * one_pole(8000, f) ** 2)
+        want = 1.0 * 0.5 * side * abs(hp(4000, 2 * f) ** 2)
+        check(abs(db(fund)) < 0.01, 'dsre: %d Hz fundamental unchanged (%.4f dB)' % (f, db(fund)))
+        if f == 5000:
+            check(abs(db(harm) - db(want)) < 0.1, 'dsre mix 1: %d Hz harmonic at %.2f dB, defined %.2f dB'
+                  % (2 * f, db(harm), db(want)))
+        else:
+            check(db(harm) < -90, 'dsre: %d Hz gains almost nothing at %d Hz (%.1f dB)' % (f, 2 * f, db(harm)))
+
+
 CASES = {
     'eq': case_eq, 'eq-advanced': case_eq_advanced, 'tone': case_tone, 'width': case_width,
     'crossfeed': case_crossfeed, 'surround': case_surround, 'channels': case_channels, 'unsrs': case_unsrs,
-    'headroom': case_headroom, 'headroom-square': case_headroom_square, 'snr': case_snr, 'refusals': case_refusals,
+    'headroom': case_headroom, 'headroom-square': case_headroom_square, 'dsre': case_dsre, 'snr': case_snr, 'refusals': case_refusals,
 }
 
 

@@ -173,6 +173,13 @@ void TestEffectsOptions::valuesAndSwitches()
     QCOMPARE(e.stereoCrossfeed, 0.15);
     QVERIFY(e.eqBass.given && e.eqPresence.given && e.eqAir.given);
     QCOMPARE(e.eqAir.gainDb, 1.5);
+    // DSRE: the switch with and without its mix, the advanced row's percentage.
+    QCOMPARE(parse(line({"--dsre"})).options.effects.dsreMix, 0.35);
+    QVERIFY(parse(line({"--dsre"})).options.effects.dsre);
+    QCOMPARE(parse(line({"--dsre", "0.700000"})).options.effects.dsreMix, 0.7);
+    QCOMPARE(parse(line({"--dsre-mix", "35"})).options.effects.dsreMix, 0.35);
+    QCOMPARE(parse(line({"--dsre-mix", "0.5"})).options.effects.dsreMix, 0.5);
+    QVERIFY(!parse(line({"--dsre", "1.5"})).errors.empty());
     // Out of range and not numbers.
     QVERIFY(!parse(line({"--stereo-crossfeed", "1.5"})).errors.empty());
     QVERIFY(!parse(line({"--bass", "abc"})).errors.empty());

@@ -211,6 +211,29 @@ bool parseEffectOption(const std::vector<std::string>& args, std::size_t& i, Eff
             o.dsre = true;
             o.dsreMix = x > 1 ? x / 100.0 : x;
         }
+    } else if (a == "--hrtf") {
+        if (r.text(s)) {
+            if (s == "mono")
+                o.hrtf = HrtfMode::Mono;
+            else if (s == "ms")
+                o.hrtf = HrtfMode::MidSide;
+            else if (s == "stereo")
+                o.hrtf = HrtfMode::Stereo;
+            else
+                r.error("'" + s + "' is not one of mono, ms, stereo");
+        }
+    } else if (a == "--hrtf-mix") {
+        r.number(0, 1, o.hrtfMix);
+    } else if (a == "--hrtf-side-mix") {
+        r.number(0, 1, o.hrtfSideMix);
+    } else if (a == "--hrtf-depth") {
+        r.number(-1, 1, o.hrtfDepth);
+    } else if (a == "--hrtf-load") {
+        if (r.text(s)) {
+            if (s.empty())
+                r.error("empty path");
+            o.hrtfFile = s;
+        }
     } else if (a == "--surround") {
         SurroundOptions& sr = o.surround;
         sr.on = true;
@@ -246,6 +269,10 @@ void validateEffects(const EffectOptions& o, bool forwardMode, std::vector<std::
         errors.push_back("--quad needs --resetchannels 4"
                          + (o.resetChannels ? std::string(" (") + std::to_string(o.resetChannels) + " given)"
                                             : std::string()));
+    if (o.hrtf == HrtfMode::Off && (o.hrtfMix != 1.0 || o.hrtfSideMix != 1.0 || o.hrtfDepth != 1.0 || !o.hrtfFile.empty()))
+        warnings.push_back("--hrtf-mix, --hrtf-side-mix, --hrtf-depth and --hrtf-load have no effect without --hrtf");
+    if (o.hrtf == HrtfMode::Mono && o.hrtfSideMix != 1.0)
+        warnings.push_back("--hrtf-side-mix has no effect with --hrtf mono");
     if (o.eqPrecutDb != 0 && !o.eqGiven && o.paramBands.empty() && !o.eqBass.given && !o.eqPresence.given
         && !o.eqAir.given)
         warnings.push_back("--eq-precut without an equaliser has no effect");

@@ -151,6 +151,21 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
                              o.surround.mixPercent, o.surround.side ? "side signal" : "opposite channel",
                              o.surround.balance));
     }
+
+    // Spatial.
+    if (o.hrtf != HrtfMode::Off) {
+        HrtfSet set;
+        if (!set.open(o.hrtfFile.empty() ? kDefaultSofaPath : o.hrtfFile, fs, error))
+            return false;
+        stages_.push_back(HrtfStage(outs_, fs, set, o.hrtf, o.hrtfMix, o.hrtfSideMix, o.hrtfDepth));
+        const HrtfGeometry g = hrtfGeometry(o.hrtfDepth);
+        const char* mode = o.hrtf == HrtfMode::Mono ? "mono" : o.hrtf == HrtfMode::MidSide ? "ms" : "stereo";
+        lines_.push_back(fmt("  hrtf: %s, set %s (%d taps at %.0f Hz), speakers at +-%.0f deg, centre at %.0f deg "
+                             "azimuth %.0f deg elevation, mix %.2f, side mix %.2f, block %zu",
+                             mode, set.path().c_str(), set.length(), fs, g.speakerAzimuth, g.centreAzimuth,
+                             g.centreElevation, o.hrtfMix, o.hrtfSideMix, kHrtfBlock));
+    }
+    toDrop_ = latency();
     return true;
 }
 
@@ -220,7 +235,7 @@ std::size_t EffectChain::drain(Planar& block)
 void EffectChain::addLimiter(double ceiling)
 {
     stages_.push_back(PeakLimiter(outs_, fs_, ceiling));
-    toDrop_ += std::get<PeakLimiter>(stages_.back()).latency();
+    toDrop_ = latency();
     lines_.push_back(fmt("  safety limiter: ceiling %+.2f dB (0.25 dB above the sine bound), true-peak estimate, %.1f ms look-ahead, "
                          "%.0f ms release", 20 * std::log10(ceiling), kLimiterLookaheadMs, kLimiterReleaseMs));
 }
@@ -231,6 +246,8 @@ std::size_t EffectChain::latency() const
     for (const Stage& s : stages_)
         if (const auto* l = std::get_if<PeakLimiter>(&s))
             total += l->latency();
+        else if (const auto* h = std::get_if<HrtfStage>(&s))
+            total += h->latency();
     return total;
 }
 

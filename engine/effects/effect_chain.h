@@ -3,7 +3,7 @@
 // list of stages run in order on each block, at the input rate.
 //
 // Order: pre-cut and equalisers -> tone -> DSRE -> channel re-mix -> surround
-// derivation -> stereo width and crossfeed -> surround ambience.
+// derivation -> stereo width and crossfeed -> surround ambience -> HRTF.
 //
 // Headroom: worstCaseGain() bounds the level a full-scale input can reach at
 // the chain's output: the largest, over frequency and output channel, of the
@@ -22,13 +22,14 @@
 #include "effects/dsre_stage.h"
 #include "effects/effect_options.h"
 #include "effects/filter_stage.h"
+#include "effects/hrtf_stage.h"
 #include "effects/peak_limiter.h"
 #include "effects/stereo_stages.h"
 
 namespace zuvo::effects {
 
-using Stage =
-    std::variant<FilterStage, DsreStage, MixStage, SurroundDeriveStage, WidthStage, SurroundStage, PeakLimiter>;
+using Stage = std::variant<FilterStage, DsreStage, MixStage, SurroundDeriveStage, WidthStage, SurroundStage,
+                           HrtfStage, PeakLimiter>;
 
 // Fixed bands of the advanced equaliser.
 constexpr double kEqBassHz = 80.0;      // low shelf, Q 0.7071

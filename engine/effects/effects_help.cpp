@@ -5,6 +5,7 @@
 #include "effects/channel_stages.h"
 #include "effects/dsre_stage.h"
 #include "effects/effect_chain.h"
+#include "effects/hrtf_stage.h"
 #include "effects/stereo_stages.h"
 
 namespace zuvo::effects {
@@ -62,6 +63,18 @@ void printEffectsHelp(std::FILE* out)
         "                         At MIX 1 (44.1 kHz) a 5 kHz sine gains a 10 kHz harmonic 20.2 dB below\n"
         "                         it, a 200 Hz sine one 98 dB below; the dry signal is untouched.\n",
         kDsreLowHz / 1000, kDsreHighHz / 1000, kDsreOutHz, 20 * std::log10(kDsreLevel));
+    std::fprintf(out,
+        "  --hrtf mono|ms|stereo  binaural rendering of L R through head-related impulse responses\n"
+        "                         (partitioned FFT convolution, %zu-sample blocks). Speakers at azimuth\n"
+        "                         +-(30 + 60 (1 - D)) degrees, a centre source at 0 (D >= 0) or 180\n"
+        "                         degrees, elevation 90 (1 - |D|). M, S = (L+-R)/2; stereo: M + m S and\n"
+        "                         M - m S to the speakers; ms: M to the centre, +-m S to the speakers;\n"
+        "                         mono: M to the centre\n"
+        "  --hrtf-mix X           dry/wet 0-1 (default 1)      --hrtf-side-mix m   0-1 (default 1)\n"
+        "  --hrtf-depth D         -1 behind .. 0 at the ears .. 1 in front (default 1)\n"
+        "  --hrtf-load FILE.sofa  the set to use (default %s), read through\n"
+        "                         libmysofa, resampled to the input rate, frontal response at unit energy\n",
+        kHrtfBlock, kDefaultSofaPath);
     std::fprintf(out,
         "  Headroom: the chain's worst-case gain (largest sum of |H| over the inputs, any frequency)\n"
         "  lowers the automatic gain by as much, and lowers an explicit --abs/--absdb when it would\n"

@@ -414,6 +414,9 @@ def case_refusals(eng):
     refused(two, ['--no-ns'], '.dsf', ['--no-ns', 'noise'], '--no-ns refused with its reason')
     refused(two, ['--eq', '1000,3.0'], '.dsf', ['--eq', 'band 1'], 'malformed --eq band')
     refused(two, ['--eq', ';'.join(['1000,1.0,1.0q'] * 11)], '.dsf', ['11 bands'], '11 --eq bands')
+    refused(two, ['--hrtf', 'ms', '--hrtf-load', os.path.join(eng.work, 'missing.sofa')], '.dsf', ['missing.sofa'],
+            'missing HRTF set')
+    refused(two, ['--hrtf', 'MS'], '.dsf', ['--hrtf', 'mono, ms, stereo'], '--hrtf mode is case-sensitive')
 
 
 def case_dsre(eng):

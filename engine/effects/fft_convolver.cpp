@@ -145,10 +145,18 @@ void FftConvolver::process(const double* const* in, double* const* out)
         std::fill(acc_.begin(), acc_.end(), std::complex<double>());
         for (int s = 0; s < sources_; ++s)
             for (std::size_t p = 0; p < partitions_; ++p) {
-                const Spectrum& h = filters_[(static_cast<std::size_t>(o * sources_ + s)) * partitions_ + p];
-                const Spectrum& x = fdl_[static_cast<std::size_t>(s) * partitions_ + (head_ + p) % partitions_];
-                for (std::size_t k = 0; k < bins_; ++k)
-                    acc_[k] += h[k] * x[k];
+                // Written out: std::complex's operator* checks for
+                // infinities on every product (C99 Annex G) and would not
+                // vectorise.
+                const double* h = reinterpret_cast<const double*>(
+                    filters_[(static_cast<std::size_t>(o * sources_ + s)) * partitions_ + p].data());
+                const double* x = reinterpret_cast<const double*>(
+                    fdl_[static_cast<std::size_t>(s) * partitions_ + (head_ + p) % partitions_].data());
+                double* a = reinterpret_cast<double*>(acc_.data());
+                for (std::size_t k = 0; k < 2 * bins_; k += 2) {
+                    a[k] += h[k] * x[k] - h[k + 1] * x[k + 1];
+                    a[k + 1] += h[k] * x[k + 1] + h[k + 1] * x[k];
+                }
             }
         fftw_execute_dft_c2r(static_cast<fftw_plan>(inverse_), cx(acc_.data()), time_.data());
         std::copy(time_.begin() + static_cast<std::ptrdiff_t>(block_), time_.end(), out[o]);

@@ -91,15 +91,32 @@ void HrtfStage::process(Planar& block, std::size_t n)
     for (std::size_t s = 0; s < in_.size(); ++s)
         inPtr[s] = in_[s].data();
     double* outPtr[2] = {wet_[0].data(), wet_[1].data()};
-    for (std::size_t k = 0; k < n; ++k) {
-        sources(block[0][k], block[1][k], src);
-        for (std::size_t s = 0; s < in_.size(); ++s)
-            in_[s][pos_] = src[s];
-        for (std::size_t c = 0; c < chans; ++c)
-            std::swap(dry_[c][pos_], block[c][k]);
-        block[0][k] = (1.0 - mix_) * block[0][k] + mix_ * wet_[0][pos_];
-        block[1][k] = (1.0 - mix_) * block[1][k] + mix_ * wet_[1][pos_];
-        if (++pos_ == kHrtfBlock) {
+    // In runs that end at a block boundary of the convolution.
+    for (std::size_t k = 0; k < n;) {
+        const std::size_t m = std::min(n - k, kHrtfBlock - pos_);
+        for (std::size_t j = 0; j < m; ++j) {
+            sources(block[0][k + j], block[1][k + j], src);
+            for (std::size_t s = 0; s < in_.size(); ++s)
+                in_[s][pos_ + j] = src[s];
+        }
+        for (std::size_t c = 0; c < chans; ++c) {
+            double* x = block[c].data() + k;
+            double* d = dry_[c].data() + pos_;
+            for (std::size_t j = 0; j < m; ++j) {
+                const double t = d[j];
+                d[j] = x[j];
+                x[j] = t;
+            }
+        }
+        for (std::size_t e = 0; e < 2; ++e) {
+            double* x = block[e].data() + k;
+            const double* w = wet_[e].data() + pos_;
+            for (std::size_t j = 0; j < m; ++j)
+                x[j] = (1.0 - mix_) * x[j] + mix_ * w[j];
+        }
+        k += m;
+        pos_ += m;
+        if (pos_ == kHrtfBlock) {
             conv_.process(inPtr.data(), outPtr);
             pos_ = 0;
         }

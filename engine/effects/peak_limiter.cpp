@@ -20,16 +20,14 @@ PeakLimiter::PeakLimiter(int channels, double fs, double ceiling)
     : channels_(channels), ceiling_(ceiling),
       window_(std::max<std::size_t>(1, static_cast<std::size_t>(std::lround(kLimiterLookaheadMs * fs / 1000.0)))),
       release_(std::exp(-1.0 / (kLimiterReleaseMs * fs / 1000.0))),
-      recent_(static_cast<std::size_t>(channels)),
+      recent_(static_cast<std::size_t>(channels), std::vector<double>(kTaps - 1, 0.0)),
       delayLine_(static_cast<std::size_t>(channels), std::vector<double>(kHalfTaps + window_, 0.0))
 {
-    for (auto& r : recent_)
-        r.fill(0.0);
     // Silence before the start needs no gain reduction.
     box_.assign(window_ + 1, 1.0);
     boxSum_ = static_cast<double>(window_ + 1);
-    // Phase t interpolates at (kHalfTaps - 1) + t / kPhases within the 8
-    // newest samples; a Hann-windowed sinc, normalised to unit DC gain.
+    // Phase t interpolates at (kHalfTaps - 1) + t / kPhases within a window
+    // of kTaps samples; a Hann-windowed sinc, normalised to unit DC gain.
     for (std::size_t t = 0; t < kPhases; ++t) {
         const double pos = static_cast<double>(kHalfTaps - 1) + static_cast<double>(t) / kPhases;
         double sum = 0;
@@ -44,28 +42,12 @@ PeakLimiter::PeakLimiter(int channels, double fs, double ceiling)
     }
 }
 
-double PeakLimiter::truePeak(std::size_t c) const
+double PeakLimiter::step(double peak)
 {
-    const auto& x = recent_[c];
-    double peak = std::fabs(x[kHalfTaps - 1]);
-    for (std::size_t t = 1; t < kPhases; ++t) {
-        double v = 0;
-        for (std::size_t j = 0; j < kTaps; ++j)
-            v += taps_[t][j] * x[j];
-        peak = std::max(peak, std::fabs(v));
-    }
-    return peak;
-}
-
-double PeakLimiter::step()
-{
-    double peak = 0;
-    for (std::size_t c = 0; c < recent_.size(); ++c)
-        peak = std::max(peak, truePeak(c));
     const double need = peak > ceiling_ ? ceiling_ / peak : 1.0;
     // Sliding minimum over the last window_ + 1 needed gains: the gain the
     // sample leaving the delay (window_ samples older) must not exceed.
-    const std::uint64_t i = index_;
+    const std::uint64_t i = index_++;
     while (!mins_.empty() && mins_.back().second >= need)
         mins_.pop_back();
     mins_.emplace_back(i, need);
@@ -73,11 +55,8 @@ double PeakLimiter::step()
         mins_.pop_front();
     const double q = mins_.front().second;
     box_.push_back(q);
-    boxSum_ += q;
-    if (box_.size() > window_ + 1) {
-        boxSum_ -= box_.front();
-        box_.pop_front();
-    }
+    boxSum_ += q - box_.front();
+    box_.pop_front();
     const double smooth = std::min(1.0, boxSum_ / static_cast<double>(window_ + 1) + 1e-15);
     gain_ = std::min(smooth, gain_ * release_ + (1.0 - release_));
     if (gain_ > 1.0 - 1e-12)
@@ -89,27 +68,44 @@ void PeakLimiter::process(Planar& block, std::size_t n)
 {
     const std::size_t len = latency();
     const auto chans = static_cast<std::size_t>(channels_);
-    for (std::size_t k = 0; k < n; ++k) {
-        for (std::size_t c = 0; c < chans; ++c) {
-            auto& r = recent_[c];
-            std::rotate(r.begin(), r.begin() + 1, r.end());
-            r[kTaps - 1] = block[c][k];
+    // Peaks: for input sample k the window is the kTaps samples ending at
+    // k; its estimate is for the sample kHalfTaps older and the three
+    // points after it.
+    peaks_.assign(n, 0.0);
+    for (std::size_t c = 0; c < chans; ++c) {
+        ext_.assign(recent_[c].begin(), recent_[c].end());
+        ext_.insert(ext_.end(), block[c].begin(), block[c].begin() + static_cast<std::ptrdiff_t>(n));
+        const double* e = ext_.data();
+        for (std::size_t k = 0; k < n; ++k) {
+            const double* w = e + k;
+            double p = std::fabs(w[kHalfTaps - 1]);
+            for (std::size_t t = 1; t < kPhases; ++t) {
+                double v = 0;
+                for (std::size_t j = 0; j < kTaps; ++j)
+                    v += taps_[t][j] * w[j];
+                p = std::max(p, std::fabs(v));
+            }
+            peaks_[k] = std::max(peaks_[k], p);
         }
-        const double g = step();
-        ++index_;
+        std::copy(ext_.end() - static_cast<std::ptrdiff_t>(kTaps - 1), ext_.end(), recent_[c].begin());
+    }
+    gains_.resize(n);
+    for (std::size_t k = 0; k < n; ++k) {
+        const double g = step(peaks_[k]);
+        gains_[k] = g;
         if (g < 1.0) {
             ++limited_;
             smallest_ = std::min(smallest_, g);
         }
-        // The sample leaving the delay line is latency() samples old; its
-        // peak is the one the gain above has been steering to.
-        for (std::size_t c = 0; c < chans; ++c) {
-            double& slot = delayLine_[c][ring_];
-            const double out = slot * g;
-            slot = block[c][k];
-            block[c][k] = out;
-        }
-        ring_ = ring_ + 1 == len ? 0 : ring_ + 1;
+    }
+    // Output: the input latency() samples earlier, times the gain.
+    for (std::size_t c = 0; c < chans; ++c) {
+        ext_.assign(delayLine_[c].begin(), delayLine_[c].end());
+        ext_.insert(ext_.end(), block[c].begin(), block[c].begin() + static_cast<std::ptrdiff_t>(n));
+        double* y = block[c].data();
+        for (std::size_t k = 0; k < n; ++k)
+            y[k] = ext_[k] * gains_[k];
+        std::copy(ext_.end() - static_cast<std::ptrdiff_t>(len), ext_.end(), delayLine_[c].begin());
     }
 }
 

@@ -42,17 +42,18 @@ public:
 
 private:
     static constexpr std::size_t kTaps = 8, kHalfTaps = 4, kPhases = 4;
-    double truePeak(std::size_t channel) const;
-    double step(); // one gain value for the sample leaving the delay
+    // One gain value for the sample leaving the delay, from the peak of the
+    // newest interpolation window.
+    double step(double peak);
 
     int channels_ = 0;
     double ceiling_ = 1;
     std::size_t window_ = 1;
     double release_ = 0;
     std::array<std::array<double, kTaps>, kPhases> taps_{};
-    std::vector<std::array<double, kTaps>> recent_;   // per channel, newest last
-    std::vector<std::vector<double>> delayLine_;       // per channel ring, latency() long
-    std::size_t ring_ = 0;
+    std::vector<std::vector<double>> recent_;    // per channel: the last kTaps - 1 samples
+    std::vector<std::vector<double>> delayLine_; // per channel: the last latency() samples
+    std::vector<double> ext_, peaks_, gains_;
     std::uint64_t index_ = 0;                         // samples taken in
     std::deque<std::pair<std::uint64_t, double>> mins_; // sliding minimum of the needed gain
     std::deque<double> box_;

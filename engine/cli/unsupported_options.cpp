@@ -35,7 +35,7 @@ const Row kRows[] = {
     {"--poly-load", ValueShape::One}, {"--poly-auto", ValueShape::None}, {"--poly-degree", ValueShape::One},
     {"--poly-report", ValueShape::None},
     // Tone, equaliser and spatial effects.
-    {"--stereoexpander", ValueShape::One}, {"--auto-pan", ValueShape::None},
+    {"--auto-pan", ValueShape::None},
     {"--target-width", ValueShape::One}, {"--pan-report", ValueShape::None}, {"--crossfeed", ValueShape::Crossfeed},
     {"--convolve", ValueShape::One}, {"--dsne", ValueShape::OptionalNumber}, {"--dsne-ratio", ValueShape::One}, {"--dsne-knee", ValueShape::One},
     {"--dsne-margin", ValueShape::One}, {"--dsee", ValueShape::OptionalNumber}, {"--dsee-drive", ValueShape::One},

@@ -190,12 +190,26 @@ bool parseEffectOption(const std::vector<std::string>& args, std::size_t& i, Eff
     } else if (a == "--stereo-width") {
         if (r.number(0, 4, x)) {
             o.stereoWidth = x;
-            o.stereo = true;
+            o.stereo = o.widthGiven = true;
         }
     } else if (a == "--stereo-crossfeed") {
         if (r.number(0, 1, x)) {
             o.stereoCrossfeed = x;
-            o.stereo = true;
+            o.stereo = o.widthGiven = true;
+        }
+    } else if (a == "--stereoexpander") {
+        // "W" or "W,C": the width stage's width and crossfeed.
+        if (r.text(s)) {
+            const std::vector<std::string> parts = split(s, ',');
+            double w = 0, c = 0;
+            if (parts.size() > 2 || !cli::parseDouble(parts[0], w) || w < 0 || w > 4
+                || (parts.size() == 2 && (!cli::parseDouble(parts[1], c) || c < 0 || c > 1))) {
+                r.error("'" + s + "' is not WIDTH (0 to 4) or WIDTH,CROSSFEED (crossfeed 0 to 1)");
+            } else {
+                o.stereoWidth = w;
+                o.stereoCrossfeed = c;
+                o.stereo = o.expanderGiven = true;
+            }
         }
     } else if (a == "--dsre") {
         o.dsre = true;
@@ -265,6 +279,9 @@ void validateEffects(const EffectOptions& o, bool forwardMode, std::vector<std::
     }
     if (o.forceChannels && (o.resetChannels != 0 || o.quad || o.unsrs))
         errors.push_back("--forcechannels keeps the input's channels and excludes --resetchannels, --quad and --unsrs");
+    if (o.expanderGiven && o.widthGiven)
+        errors.push_back("--stereoexpander sets the width and crossfeed itself; give it without --stereo-width and "
+                         "--stereo-crossfeed");
     if (o.quad && o.resetChannels != 4)
         errors.push_back("--quad needs --resetchannels 4"
                          + (o.resetChannels ? std::string(" (") + std::to_string(o.resetChannels) + " given)"

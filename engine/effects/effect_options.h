@@ -49,6 +49,8 @@ struct EffectOptions {
     bool stereoAuto = false;
     double stereoWidth = 1.2;
     double stereoCrossfeed = 0;
+    bool widthGiven = false;             // --stereo-width / --stereo-crossfeed
+    bool expanderGiven = false;          // --stereoexpander "W[,C]"
     SurroundOptions surround;
 
     // Spatial.

@@ -45,6 +45,7 @@ void printEffectsHelp(std::FILE* out)
     std::fprintf(out,
         "  --stereo               mid/side width on L R: L = M + W S, R = M - W S (M, S = (L+-R)/2)\n"
         "  --stereo-width W       W, 0-4 (default 1.2); implies --stereo\n"
+        "  --stereoexpander W[,C] the same stage: width W and crossfeed C (default 0) in one value\n"
         "  --stereo-auto          W follows the music towards rms(S) = %.1f rms(M), between 1 and\n"
         "                         --stereo-width, smoothed over %.1f s\n"
         "  --stereo-crossfeed C   0-1: each side gets C x the other side, %.1f ms later, through a\n"

@@ -173,6 +173,12 @@ void TestEffectsOptions::valuesAndSwitches()
     QCOMPARE(e.stereoCrossfeed, 0.15);
     QVERIFY(e.eqBass.given && e.eqPresence.given && e.eqAir.given);
     QCOMPARE(e.eqAir.gainDb, 1.5);
+    // The expander's text: width, optionally with crossfeed.
+    QCOMPARE(parse(line({"--stereoexpander", "1.5"})).options.effects.stereoWidth, 1.5);
+    QCOMPARE(parse(line({"--stereoexpander", "1.5,0.2"})).options.effects.stereoCrossfeed, 0.2);
+    QVERIFY(parse(line({"--stereoexpander", "1.5"})).options.effects.stereo);
+    QVERIFY(!parse(line({"--stereoexpander", "wide"})).errors.empty());
+    QVERIFY(!parse(line({"--stereoexpander", "1.5", "--stereo-width", "1.2"})).errors.empty());
     // DSRE: the switch with and without its mix, the advanced row's percentage.
     QCOMPARE(parse(line({"--dsre"})).options.effects.dsreMix, 0.35);
     QVERIFY(parse(line({"--dsre"})).options.effects.dsre);

@@ -8,7 +8,7 @@ effect's closed-form definition, computed here with numpy from the
 documented formulas. The decoder's own response cancels in the ratio.
 
 Usage: effects_measure.py ENGINE CASE   (CASE: eq, eq-advanced, tone, width,
-crossfeed, surround, channels, unsrs, headroom, headroom-square, dsre, snr, refusals)
+stereo-auto, crossfeed, surround, channels, unsrs, headroom, headroom-square, dsre, snr, refusals)
 """
 import math
 import os
@@ -115,6 +115,22 @@ def case_width(eng):
     pair_case(eng, ['--stereo', '--stereo-width', '1.5'], 'stereo width 1.5', expect)
 
 
+def case_stereo_auto(eng):
+    # A narrow mix (side 0.1 of mid) is widened up to --stereo-width; a wide
+    # one (side as loud as mid) is left alone. Measured once settled.
+    settled = (5.0, 7.0)
+    for side, want_w in ((0.1, 1.5), (1.0, 1.0)):
+        spec = [[(500, 0.1, 0.0), (700, 0.1 * side, 0.0)], [(500, 0.1, 0.0), (700, -0.1 * side, 0.0)]]
+        data = tones(spec, seconds=8.0)
+        ref, _ = eng.convert(data, ['--absdb', '-14'])
+        out, _ = eng.convert(data, ['--absdb', '-14', '--stereo-auto', '--stereo-width', '1.5'])
+        xr, xo = decode(ref, 2), decode(out, 2)
+        got = abs(phasor(xo[:, 0], 700, window=settled) / phasor(xr[:, 0], 700, window=settled))
+        mid = abs(phasor(xo[:, 0], 500, window=settled) / phasor(xr[:, 0], 500, window=settled))
+        check(abs(db(got) - db(want_w)) < 0.1 and abs(db(mid)) < 0.01,
+              'stereo-auto, side/mid %.1f: side scaled by %.4f (want %.1f), mid by %.4f' % (side, got, want_w, mid))
+
+
 def case_crossfeed(eng):
     c, d = 0.3, round(0.3e-3 * FS)
     def expect(f, o, src):
@@ -219,6 +235,9 @@ def case_headroom(eng):
     out, log = eng.convert(data, ['--eq', '100,0.0,1.0q;1000,12.0,1.0q'])
     check('headroom:' in log, 'headroom: the log says what was done')
     check('turned down' not in log, 'a sine at the bound passes the safety limiter untouched')
+    _, log2 = eng.convert(data, ['--absdb', '-1', '--eq', '100,0.0,1.0q;1000,12.0,1.0q'])
+    check('the requested gain was lowered' in log2 and 'overloads 1' not in log2 and 'resets 1' not in log2,
+          'an explicit -1 dB gain with +12 dB EQ is lowered, and the log says so')
     check('overloads 0, resets 0' in log and 'overloads 1' not in log and 'resets 1' not in log
           and all(('output channel %d: modulator peak input' % c) in log for c in (1, 2)),
           'full scale + 12 dB EQ: no modulator overload or reset')
@@ -312,7 +331,7 @@ def case_dsre(eng):
 
 CASES = {
     'eq': case_eq, 'eq-advanced': case_eq_advanced, 'tone': case_tone, 'width': case_width,
-    'crossfeed': case_crossfeed, 'surround': case_surround, 'channels': case_channels, 'unsrs': case_unsrs,
+    'stereo-auto': case_stereo_auto, 'crossfeed': case_crossfeed, 'surround': case_surround, 'channels': case_channels, 'unsrs': case_unsrs,
     'headroom': case_headroom, 'headroom-square': case_headroom_square, 'dsre': case_dsre, 'snr': case_snr, 'refusals': case_refusals,
 }
 

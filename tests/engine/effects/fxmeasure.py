@@ -74,9 +74,10 @@ def decode(path, channels):
     return np.frombuffer(raw, dtype='<f8').reshape(-1, channels)
 
 
-def phasor(x, f, rate=DEC):
+def phasor(x, f, rate=DEC, window=None):
     """Complex amplitude of the integer-Hz tone f over the analysis window."""
-    a, b = int(WINDOW[0] * rate), int(WINDOW[1] * rate)
+    w = window or WINDOW
+    a, b = int(w[0] * rate), int(w[1] * rate)
     n = np.arange(a, b)
     return 2.0 / (b - a) * np.sum(x[a:b] * np.exp(-2j * np.pi * f * n / rate))
 

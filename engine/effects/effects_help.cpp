@@ -74,8 +74,9 @@ void printEffectsHelp(std::FILE* out)
         "  --hrtf-mix X           dry/wet 0-1 (default 1)      --hrtf-side-mix m   0-1 (default 1)\n"
         "  --hrtf-depth D         -1 behind .. 0 at the ears .. 1 in front (default 1)\n"
         "  --hrtf-load FILE.sofa  the set to use (default %s), read through\n"
-        "                         libmysofa, resampled to the input rate, frontal response at unit energy\n",
-        kHrtfBlock, kDefaultSofaPath);
+        "                         libmysofa, resampled to the input rate; level: the frontal power\n"
+        "                         response averaged over %.0f Hz-%.0f kHz and both ears is 0 dB\n",
+        kHrtfBlock, kDefaultSofaPath, kNormLowHz, kNormHighHz / 1000);
     std::fprintf(out,
         "  Headroom: the chain's worst-case gain (largest sum of |H| over the inputs, any frequency)\n"
         "  lowers the automatic gain by as much, and lowers an explicit --abs/--absdb when it would\n"

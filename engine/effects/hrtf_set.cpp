@@ -1,9 +1,12 @@
 #include "effects/hrtf_set.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 
 #include <mysofa.h>
+
+#include "effects/fft_convolver.h"
 
 namespace zuvo::effects {
 
@@ -28,7 +31,7 @@ bool HrtfSet::open(const std::string& path, double fs, std::string& error)
         return false;
     }
     int length = 0, err = 0;
-    MYSOFA_EASY* h = mysofa_open(path.c_str(), static_cast<float>(fs), &length, &err);
+    MYSOFA_EASY* h = mysofa_open_no_norm(path.c_str(), static_cast<float>(fs), &length, &err);
     if (!h || err != MYSOFA_OK) {
         if (h)
             mysofa_close(h);
@@ -45,6 +48,29 @@ bool HrtfSet::open(const std::string& path, double fs, std::string& error)
     length_ = length;
     fs_ = fs;
     path_ = path;
+    scale_ = 1.0;
+    const Hrir front = at(0, 0);
+    std::size_t n = 1 << 16;
+    while (n < 4 * front.left.size())
+        n *= 2;
+    double power = 0;
+    int bins = 0;
+    for (const auto* ir : {&front.left, &front.right}) {
+        const auto spectrum = spectrumOf(*ir, n);
+        for (std::size_t k = 0; k < spectrum.size(); ++k) {
+            const double hz = fs * static_cast<double>(k) / static_cast<double>(n);
+            if (hz >= kNormLowHz && hz <= kNormHighHz) {
+                power += std::norm(spectrum[k]);
+                ++bins;
+            }
+        }
+    }
+    if (!(power > 0) || bins == 0 || !std::isfinite(power)) {
+        error = "HRTF set " + path + ": the frontal response is silent";
+        easy_.reset();
+        return false;
+    }
+    scale_ = 1.0 / std::sqrt(power / bins);
     return true;
 }
 
@@ -59,7 +85,8 @@ Hrir HrtfSet::at(double azimuthDeg, double elevationDeg) const
         const double d = std::isfinite(delaySeconds) ? std::max(0.0, std::round(delaySeconds * fs_)) : 0.0;
         const auto shift = static_cast<std::size_t>(std::min(d, static_cast<double>(kMaxHrirLength)));
         std::vector<double> out(shift, 0.0);
-        out.insert(out.end(), x.begin(), x.end());
+        for (float v : x)
+            out.push_back(scale_ * v);
         return out;
     };
     return Hrir{shifted(l, dl), shifted(r, dr)};

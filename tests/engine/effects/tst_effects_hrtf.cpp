@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <complex>
 #include <mysofa.h>
 
 #include "effects/hrtf_stage.h"
@@ -30,8 +31,10 @@ struct Ir {
     std::vector<double> l, r;
 };
 
-// Straight from libmysofa, without the engine's loader.
-Ir fetch(MYSOFA_EASY* easy, int length, double az, double el)
+// Straight from libmysofa, without the engine's loader, at the documented
+// level: the frontal power response over kNormLowHz..kNormHighHz, both
+// ears, is 0 dB.
+Ir fetch(MYSOFA_EASY* easy, int length, double az, double el, double scale = 1.0)
 {
     float c[3] = {float(az), float(el), 1.0f};
     mysofa_s2c(c);
@@ -41,9 +44,27 @@ Ir fetch(MYSOFA_EASY* easy, int length, double az, double el)
     Ir ir;
     ir.l.assign(std::size_t(std::lround(dl * kFs)), 0.0);
     ir.r.assign(std::size_t(std::lround(dr * kFs)), 0.0);
-    ir.l.insert(ir.l.end(), l.begin(), l.end());
-    ir.r.insert(ir.r.end(), r.begin(), r.end());
+    for (float v : l)
+        ir.l.push_back(scale * v);
+    for (float v : r)
+        ir.r.push_back(scale * v);
     return ir;
+}
+
+double levelScale(MYSOFA_EASY* easy, int length, double fs)
+{
+    const Ir front = fetch(easy, length, 0, 0);
+    const std::size_t n = 1 << 16;
+    double power = 0;
+    int bins = 0;
+    for (std::size_t k = std::size_t(std::ceil(kNormLowHz * n / fs)); double(k) * fs / n <= kNormHighHz; ++k, ++bins)
+        for (const auto* h : {&front.l, &front.r}) {
+            std::complex<double> acc = 0;
+            for (std::size_t t = 0; t < h->size(); ++t)
+                acc += (*h)[t] * std::polar(1.0, -2 * M_PI * double(k * t % n) / double(n));
+            power += std::norm(acc);
+        }
+    return 1.0 / std::sqrt(power / (2 * bins));
 }
 
 std::vector<double> convolve(const std::vector<double>& x, const std::vector<double>& h)
@@ -66,8 +87,29 @@ class TestEffectsHrtf : public QObject {
 private slots:
     void matchesDirectConvolution_data();
     void matchesDirectConvolution();
+    void levelDoesNotDependOnRate();
     void refusesBadSets();
 };
+
+void TestEffectsHrtf::levelDoesNotDependOnRate()
+{
+    // The frontal response at 1 kHz, left ear, at three input rates.
+    double at1k[3];
+    const double rates[3] = {44100, 96000, 384000};
+    for (int i = 0; i < 3; ++i) {
+        HrtfSet set;
+        std::string error;
+        QVERIFY2(set.open(kDefaultSofaPath, rates[i], error), error.c_str());
+        const Hrir h = set.at(0, 0);
+        std::complex<double> acc = 0;
+        for (std::size_t t = 0; t < h.left.size(); ++t)
+            acc += h.left[t] * std::polar(1.0, -2 * M_PI * 1000.0 * double(t) / rates[i]);
+        at1k[i] = 20 * std::log10(std::abs(acc));
+    }
+    qInfo("frontal 1 kHz: %.2f dB at 44.1 kHz, %.2f dB at 96 kHz, %.2f dB at 384 kHz", at1k[0], at1k[1], at1k[2]);
+    QVERIFY(std::fabs(at1k[1] - at1k[0]) < 0.5);
+    QVERIFY(std::fabs(at1k[2] - at1k[0]) < 0.5);
+}
 
 void TestEffectsHrtf::matchesDirectConvolution_data()
 {
@@ -108,8 +150,9 @@ void TestEffectsHrtf::matchesDirectConvolution()
 
     // Reference: the documented geometry and source mix, convolved directly.
     int length = 0, err = 0;
-    MYSOFA_EASY* easy = mysofa_open(kDefaultSofaPath, float(kFs), &length, &err);
+    MYSOFA_EASY* easy = mysofa_open_no_norm(kDefaultSofaPath, float(kFs), &length, &err);
     QVERIFY(easy && err == MYSOFA_OK);
+    const double scale = levelScale(easy, length, kFs);
     const double a = 30 + 60 * (1 - depth);
     const double cAz = depth >= 0 ? 0 : 180, cEl = 90 * (1 - std::fabs(depth));
     std::vector<double> mid(kFrames), sid(kFrames);
@@ -125,7 +168,8 @@ void TestEffectsHrtf::matchesDirectConvolution()
             earR[n] += g * yr[n];
         }
     };
-    const Ir left = fetch(easy, length, a, 0), right = fetch(easy, length, -a, 0), centre = fetch(easy, length, cAz, cEl);
+    const Ir left = fetch(easy, length, a, 0, scale), right = fetch(easy, length, -a, 0, scale),
+             centre = fetch(easy, length, cAz, cEl, scale);
     mysofa_close(easy);
     if (m == HrtfMode::Stereo) {
         std::vector<double> s0(kFrames), s1(kFrames);

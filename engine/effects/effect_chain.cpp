@@ -202,7 +202,10 @@ double EffectChain::worstCaseGain() const
     // the peaks of the delay combs (period 1 / delay).
     for (int k = 0; k <= 2048; ++k)
         probe(5.0 * std::pow(200.0, k / 2048.0));
-    const double step = std::clamp(1.0 / (8.0 * std::max(maxDelaySeconds_, 1e-3)), 0.25, 2.0);
+    // At most 2^18 points: long delays at high rates would otherwise take
+    // seconds; a peak missed between points is the safety limiter's.
+    const double step = std::max(std::clamp(1.0 / (8.0 * std::max(maxDelaySeconds_, 1e-3)), 0.25, 2.0),
+                                 (nyquist - 1000.0) / 262144.0);
     for (double hz = 1000.0; hz < nyquist; hz += step)
         probe(hz);
     for (double hz : probeHz_)

@@ -37,9 +37,9 @@ import struct, sys
 import numpy as np
 fs, n = 44100, 60 * 44100
 rng = np.random.default_rng(7)
-spec = (rng.standard_normal((2, n // 2 + 1)) + 1j * rng.standard_normal((2, n // 2 + 1)))
+noise = (rng.standard_normal((2, n // 2 + 1)) + 1j * rng.standard_normal((2, n // 2 + 1)))
 f = np.maximum(np.fft.rfftfreq(n, 1 / fs), 20.0)
-x = np.fft.irfft(spec / np.sqrt(f), n, axis=1)
+x = np.fft.irfft(noise / np.sqrt(f), n, axis=1)
 x *= 0.1 / np.sqrt((x ** 2).mean())
 data = np.clip(x.T, -1, 1).astype('<f4').tobytes()
 fmt = struct.pack('<HHIIHH', 3, 2, fs, fs * 8, 8, 32)

@@ -107,25 +107,25 @@ bool parseEqBands(const std::string& text, std::vector<eq::BandSpec>& out, std::
             error = where + " is not freq,gain,bandwidth[q|h|k|o|s]";
             return false;
         }
-        eq::BandSpec spec;
+        eq::BandSpec parsed;
         std::string bw = parts[2];
         if (!bw.empty() && eq::isBandwidthUnit(bw.back())) {
-            spec.unit = bw.back();
+            parsed.unit = bw.back();
             bw.pop_back();
         }
-        if (!cli::parseDouble(parts[0], spec.centerHz) || !(spec.centerHz > 0) || spec.centerHz > 1e6) {
+        if (!cli::parseDouble(parts[0], parsed.centerHz) || !(parsed.centerHz > 0) || parsed.centerHz > 1e6) {
             error = where + ": the frequency must be a number above 0 Hz";
             return false;
         }
-        if (!cli::parseDouble(parts[1], spec.gainDb) || std::fabs(spec.gainDb) > kMaxGainDb) {
+        if (!cli::parseDouble(parts[1], parsed.gainDb) || std::fabs(parsed.gainDb) > kMaxGainDb) {
             error = where + ": the gain must be a number" + range(-kMaxGainDb, kMaxGainDb) + " dB";
             return false;
         }
-        if (!cli::parseDouble(bw, spec.bandwidth) || !(spec.bandwidth > 0)) {
+        if (!cli::parseDouble(bw, parsed.bandwidth) || !(parsed.bandwidth > 0)) {
             error = where + ": the bandwidth must be a number above 0, followed by q, h, k, o or s";
             return false;
         }
-        out.push_back(spec);
+        out.push_back(parsed);
     }
     if (out.size() > static_cast<std::size_t>(eq::kMaxBands)) {
         error = std::to_string(out.size()) + " bands given; at most " + std::to_string(eq::kMaxBands);

@@ -78,8 +78,8 @@ def case_tone(eng):
 
 def pair_case(eng, extra, label, expect, gain='-14'):
     """L carries 500 and 520 Hz, R 700 and 710 Hz. expect(f, out, src) -> complex."""
-    spec = [[(500, 0.1, 0.3), (520, 0.1, 1.0)], [(700, 0.1, 2.0), (710, 0.1, 0.5)]]
-    data = tones(spec)
+    tonesets = [[(500, 0.1, 0.3), (520, 0.1, 1.0)], [(700, 0.1, 2.0), (710, 0.1, 0.5)]]
+    data = tones(tonesets)
     ref, _ = eng.convert(data, ['--absdb', gain])
     out, log = eng.convert(data, ['--absdb', gain] + extra)
     xr, xo = decode(ref, 2), decode(out, 2)
@@ -120,8 +120,8 @@ def case_stereo_auto(eng):
     # one (side as loud as mid) is left alone. Measured once settled.
     settled = (5.0, 7.0)
     for side, want_w in ((0.1, 1.5), (1.0, 1.0)):
-        spec = [[(500, 0.1, 0.0), (700, 0.1 * side, 0.0)], [(500, 0.1, 0.0), (700, -0.1 * side, 0.0)]]
-        data = tones(spec, seconds=8.0)
+        tonesets = [[(500, 0.1, 0.0), (700, 0.1 * side, 0.0)], [(500, 0.1, 0.0), (700, -0.1 * side, 0.0)]]
+        data = tones(tonesets, seconds=8.0)
         ref, _ = eng.convert(data, ['--absdb', '-14'])
         out, _ = eng.convert(data, ['--absdb', '-14', '--stereo-auto', '--stereo-width', '1.5'])
         xr, xo = decode(ref, 2), decode(out, 2)
@@ -197,8 +197,8 @@ def case_unsrs(eng):
             return 1.0 if o == src else 0.0
         sign = (1 if o == 2 else -1) * (1 if src == 0 else -1)
         return sign * 0.5 * one_pole(7000, f)[()] * delay(D, f)[()]
-    spec = [[(500, 0.1, 0.3), (520, 0.1, 1.0)], [(700, 0.1, 2.0), (710, 0.1, 0.5)]]
-    data = tones(spec)
+    tonesets = [[(500, 0.1, 0.3), (520, 0.1, 1.0)], [(700, 0.1, 2.0), (710, 0.1, 0.5)]]
+    data = tones(tonesets)
     ref, _ = eng.convert(data, ['--absdb', '-14'])
     out, _ = eng.convert(data, ['--absdb', '-14', '--unsrs'])
     xr, xo = decode(ref, 2), decode(out, 4)
@@ -217,16 +217,16 @@ def inband_snr(x, f0, rate=DEC):
     seg = x[a:b]
     n = len(seg)
     w = np.kaiser(n, 20)
-    spec = np.abs(np.fft.rfft(seg * w)) ** 2
+    power = np.abs(np.fft.rfft(seg * w)) ** 2
     freqs = np.fft.rfftfreq(n, 1 / rate)
     band = (freqs >= 20) & (freqs <= 20000)
     tone = np.abs(freqs - f0) <= 10
     harm = np.zeros_like(band)
     for h in range(2, 20):
         harm |= np.abs(freqs - h * f0) <= 10
-    signal = spec[tone].sum()
-    noise = spec[band & ~tone & ~harm].sum()
-    thd = spec[band & harm].sum()
+    signal = power[tone].sum()
+    noise = power[band & ~tone & ~harm].sum()
+    thd = power[band & harm].sum()
     return 10 * np.log10(signal / noise), 10 * np.log10(max(thd, 1e-300) / signal)
 
 

@@ -36,11 +36,11 @@ def write_wav(path, data, fs=FS):
         f.write(b'data' + struct.pack('<I', len(payload)) + payload)
 
 
-def tones(spec, seconds=SECONDS, fs=FS):
-    """spec: list per channel of [(freq, amplitude, phase)]."""
+def tones(tonesets, seconds=SECONDS, fs=FS):
+    """tonesets: list per channel of [(freq, amplitude, phase)]."""
     t = np.arange(int(seconds * fs)) / fs
-    out = np.zeros((len(t), len(spec)))
-    for c, parts in enumerate(spec):
+    out = np.zeros((len(t), len(tonesets)))
+    for c, parts in enumerate(tonesets):
         for f, a, p in parts:
             out[:, c] += a * np.sin(2 * np.pi * f * t + p)
     return out

@@ -10,6 +10,7 @@
 #include "cli/capabilities.h"
 #include "cli/help.h"
 #include "cli/options.h"
+#include "cli/refusal_reasons.h"
 #include "control/control_channel.h"
 #include "run/dxd_run.h"
 #include "run/engine_log.h"
@@ -43,6 +44,9 @@ int usageErrors(const zuvo::cli::ParsedCommandLine& parsed, zuvo::run::EngineLog
     };
     if (!parsed.unsupported.empty())
         say("not supported by this version: " + joined(parsed.unsupported));
+    for (const auto& option : parsed.unsupported)
+        if (const std::string why = zuvo::cli::refusalReason(option); !why.empty())
+            say("  " + option + ": " + why);
     if (!parsed.unknown.empty())
         say("unknown option(s): " + joined(parsed.unknown));
     for (const auto& e : parsed.errors)

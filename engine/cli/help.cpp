@@ -1,6 +1,7 @@
 #include "cli/help.h"
 
 #include "dsp/dsd_pipeline.h"
+#include "effects/effects_help.h"
 
 namespace zuvo::cli {
 
@@ -35,6 +36,9 @@ void printHelp(std::FILE* out, const char* version)
         "                         (default; stable to -6.0 dBFS)\n"
         "  --order N              single loop, orders 2-12 (order 9: stable to -4.5 dBFS)\n"
         "  --cifb N               chain of integrators with distributed feedback (order 7: -6.0 dBFS)\n"
+        "  --mp-ns [--mp-poles N] multi-pole noise shaping: the single loop, its NTF with N poles\n"
+        "                         (N = order, 2-12, default 9); may come with --order N\n"
+        "  --single-pole, --no-ns, --quantization-type, --quantization-ratio: refused, with the reason\n"
         "  --mash [N]             refused: a MASH cancels its first stage's noise by adding the later\n"
         "                         stages' outputs, so its output is multi-level; forcing that back into\n"
         "                         one bit re-quantises it and undoes the cancellation\n"
@@ -66,6 +70,9 @@ void printHelp(std::FILE* out, const char* version)
     std::fprintf(out,
         "DXD (PCM to high-rate PCM):\n"
         "  --dxd                  resample to 352800 Hz (or --dxd-samplerate N), 24-bit unless --bit/--float\n"
+        );
+    effects::printEffectsHelp(out);
+    std::fprintf(out,
         "Run and report:\n"
         "  --gui                  progress as '[PROGRESS] 12.3' lines on standard output\n"
         "  --log-file PATH        append a detailed log to PATH\n"
@@ -73,16 +80,15 @@ void printHelp(std::FILE* out, const char* version)
         "  --verbose              more detail on standard error\n"
         "  --report, --peak, --rms  peak and RMS of every input channel, on standard output at the end\n"
         "  --no-dynamic-range     accepted (no dynamic-range section is computed)\n"
-        "  --swap-channels        swap the first two channels\n"
-        "  --forcechannels        accepted (the input's channel count is always kept)\n"
+        "  --swap-channels        swap the first two channels (before the effects)\n"
         "  -pdfrp                 accepted with a warning: this build makes no PDF report\n"
         "  --version, --help, --list-devices\n"
         "  --capabilities         one line 'refused OPTION' for each option this build refuses\n"
         "Control: the line 'stop' on standard input (or the host's control queue) ends the run;\n"
         "  the partial output is finalised and stays valid.\n"
         "\n"
-        "Options for effects, repair, loudness, channel re-mapping, OpenCL and recording are\n"
-        "refused by this version (exit code 2), all of them named in one message.\n"
+        "Options for repair, loudness, OpenCL and recording are refused by this version\n"
+        "(exit code 2), all of them named in one message.\n"
         "\n"
         "Exit codes:\n"
         "  0    done\n"

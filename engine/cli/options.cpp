@@ -6,6 +6,7 @@
 
 #include "cli/option_values.h"
 #include "cli/unsupported_options.h"
+#include "effects/effect_args.h"
 
 namespace zuvo::cli {
 
@@ -32,6 +33,8 @@ private:
     ParsedCommandLine result_;
     std::vector<std::string> positional_;
     std::string modulatorGiven_;
+    bool multiPole_ = false; // --mp-ns: the single-loop family
+    int multiPoles_ = 0;     // --mp-poles N
     bool bitsGiven_ = false, samplingGiven_ = false, lowpassGiven_ = false, floatGiven_ = false,
          dxdRateGiven_ = false, formatGiven_ = false,
          dstLevelGiven_ = false;
@@ -93,6 +96,8 @@ bool Parser::handle(const std::string& a)
         {"--artist", &io::Tags::artist}, {"--title", &io::Tags::title}, {"--album", &io::Tags::album},
         {"--genre", &io::Tags::genre},   {"--year", &io::Tags::year},   {"--comment", &io::Tags::comment},
     };
+    if (effects::parseEffectOption(args_, i_, o.effects, result_.errors))
+        return true;
     if (auto t = textTags.find(a); t != textTags.end()) {
         // An empty value is a value: the front-end sends --artist "" for .dff.
         if (value(s))
@@ -148,8 +153,6 @@ bool Parser::handle(const std::string& a)
         o.noDynamicRange = true;
     } else if (a == "--swap-channels") {
         o.swapChannels = true;
-    } else if (a == "--forcechannels") {
-        // The engine always keeps the input's channel count.
     } else if (a == "--reverse") {
         if (o.mode == Mode::Dxd)
             error("--reverse and --dxd exclude each other");
@@ -236,6 +239,11 @@ bool Parser::handle(const std::string& a)
                 order = static_cast<int>(n);
         }
         setModulator(dsp::ModulatorType::Mash, order, "--mash");
+    } else if (a == "--mp-ns") {
+        multiPole_ = true;
+    } else if (a == "--mp-poles") {
+        if (intValue(2, 12, n))
+            multiPoles_ = static_cast<int>(n);
     } else if (a == "--unpredistortion") {
         o.predistortion = false;
     } else if (a == "--abs") {
@@ -317,6 +325,20 @@ void Parser::validate()
     }
     if (dstLevelGiven_ && !o.dst && o.dstLevel > 0)
         result_.warnings.push_back("--dst-compression has no effect without --dst");
+    // Multi-pole noise shaping is the single-loop modulator, whose NTF has as
+    // many poles as its order; --mp-poles picks the order.
+    if (multiPoles_ && !multiPole_)
+        error("--mp-poles needs --mp-ns");
+    if (multiPole_) {
+        if (!modulatorGiven_.empty() && modulatorGiven_ != "--order")
+            error("--mp-ns is the single-loop modulator and excludes " + modulatorGiven_);
+        o.modulator.type = dsp::ModulatorType::SingleLoop;
+        if (multiPoles_)
+            o.modulator.order = multiPoles_;
+        else if (modulatorGiven_.empty())
+            o.modulator.order = 0;
+    }
+    effects::validateEffects(o.effects, o.mode == Mode::Forward, result_.errors, result_.warnings);
 }
 
 ParsedCommandLine Parser::run()

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dsp/dsd_pipeline.h"
+#include "effects/effect_options.h"
 #include "io/tags.h"
 
 namespace zuvo::cli {
@@ -48,6 +49,7 @@ struct EngineOptions {
     bool predistortion = true;
     bool dst = false;        // --dst: DST-compressed DSDIFF
     int dstLevel = 1;        // --dst-compression 1..9 (default 1, the fastest); 0 turns --dst off
+    effects::EffectOptions effects; // equaliser, tone, channels, stereo image
 
     // PCM outputs (reverse and DXD).
     bool flac = false;       // --format flac

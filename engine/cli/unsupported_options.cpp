@@ -26,7 +26,7 @@ const Row kRows[] = {
     {"--master", ValueShape::None}, {"--denoise", ValueShape::One}, {"--keep-harmonics", ValueShape::One},
     {"--noise-reduce", ValueShape::One}, {"--stop-lossy", ValueShape::None},
     // Noise-shaping variants of another modulator family.
-    {"--mp-ns", ValueShape::None}, {"--mp-poles", ValueShape::One}, {"--single-pole", ValueShape::None},
+    {"--single-pole", ValueShape::None},
     {"--no-ns", ValueShape::None}, {"--quantization-type", ValueShape::One},
     {"--quantization-ratio", ValueShape::One}, {"--zero", ValueShape::Numbers}, {"--pole", ValueShape::One},
     {"--noise-threshold", ValueShape::One}, {"--delta-f", ValueShape::One}, {"--psy", ValueShape::None},
@@ -35,16 +35,9 @@ const Row kRows[] = {
     {"--poly-load", ValueShape::One}, {"--poly-auto", ValueShape::None}, {"--poly-degree", ValueShape::One},
     {"--poly-report", ValueShape::None},
     // Tone, equaliser and spatial effects.
-    {"--stereo", ValueShape::None}, {"--stereo-auto", ValueShape::None}, {"--stereo-width", ValueShape::One},
-    {"--stereo-crossfeed", ValueShape::One}, {"--eq-bass", ValueShape::One}, {"--eq-presence", ValueShape::One},
-    {"--eq-air", ValueShape::One}, {"--equalizer", ValueShape::Three}, {"--eq", ValueShape::One},
-    {"--eq-precut", ValueShape::One}, {"--bass", ValueShape::One}, {"--treble", ValueShape::One},
-    {"--hrtf", ValueShape::One}, {"--hrtf-mix", ValueShape::One}, {"--hrtf-side-mix", ValueShape::One},
-    {"--hrtf-depth", ValueShape::One}, {"--hrtf-load", ValueShape::One}, {"--surround", ValueShape::Surround},
-    {"--unsrs", ValueShape::None}, {"--stereoexpander", ValueShape::One}, {"--auto-pan", ValueShape::None},
+    {"--auto-pan", ValueShape::None},
     {"--target-width", ValueShape::One}, {"--pan-report", ValueShape::None}, {"--crossfeed", ValueShape::Crossfeed},
-    {"--convolve", ValueShape::One}, {"--dsre", ValueShape::OptionalNumber}, {"--dsre-mix", ValueShape::One},
-    {"--dsne", ValueShape::OptionalNumber}, {"--dsne-ratio", ValueShape::One}, {"--dsne-knee", ValueShape::One},
+    {"--convolve", ValueShape::One}, {"--dsne", ValueShape::OptionalNumber}, {"--dsne-ratio", ValueShape::One}, {"--dsne-knee", ValueShape::One},
     {"--dsne-margin", ValueShape::One}, {"--dsee", ValueShape::OptionalNumber}, {"--dsee-drive", ValueShape::One},
     {"--dsee-hmix", ValueShape::One}, {"--dsee-air", ValueShape::One}, {"--harmonics", ValueShape::Two},
     {"--pbe", ValueShape::One}, {"--pbe-precut", ValueShape::One}, {"--apo", ValueShape::OptionalApo},
@@ -54,7 +47,6 @@ const Row kRows[] = {
     {"--lal-lookahead", ValueShape::One}, {"--lal-threshold", ValueShape::One}, {"--rate", ValueShape::One},
     {"--music-type", ValueShape::One}, {"--mastering-preset", ValueShape::One},
     // Channel re-mapping.
-    {"--resetchannels", ValueShape::One}, {"--quad", ValueShape::None},
     // Containers, transports and hardware.
     {"--opencl", ValueShape::None},
     {"--pipe", ValueShape::None}, {"--force-endianness", ValueShape::One}, {"--memory-cache", ValueShape::One},

@@ -51,6 +51,11 @@ struct ForwardConfig {
     ModulatorOptions modulator;
     double gain = NAN;       // linear gain applied before modulation; NaN = automatic headroom
     bool predistortion = true; // compensate the interpolation chain's droop
+    // Worst-case linear gain of the effects that run before the encoder. The
+    // automatic gain is divided by it, and an explicit gain is lowered when
+    // gain x effectGain would pass the automatic gain, so that effects never
+    // push the modulator past its stable level.
+    double effectGain = 1.0;
 };
 
 struct DesignSummary {
@@ -62,6 +67,9 @@ struct DesignSummary {
     // Added by the signal path: the same limit measured at the modulator's
     // own input (before the gain), i.e. independent of the gain choice.
     double modulatorMaxStableDbfs = 0;
+    // Gain the user asked for (NaN = automatic) and whether the effects'
+    // headroom lowered it.
+    bool gainLoweredForEffects = false;
 };
 
 struct ForwardDesign; // opaque, immutable once made

@@ -190,7 +190,13 @@ std::shared_ptr<const ForwardDesign> designForward(const ForwardConfig& c, std::
     if (!designModulator(c.modulator.type, c.modulator.order, band / d->dsdRate, d->mod, error))
         return nullptr;
 
-    d->gain = std::isnan(c.gain) ? d->mod.maxStable * std::pow(10.0, -kAutoHeadroomDb / 20) : c.gain;
+    const double autoGain = d->mod.maxStable * std::pow(10.0, -kAutoHeadroomDb / 20);
+    const double effectGain = std::isfinite(c.effectGain) ? std::max(1.0, c.effectGain) : 1.0;
+    d->gain = std::isnan(c.gain) ? autoGain / effectGain : c.gain;
+    if (!std::isnan(c.gain) && effectGain > 1.0 && c.gain * effectGain > autoGain) {
+        d->gain = autoGain / effectGain;
+        d->sum.gainLoweredForEffects = true;
+    }
 
     if (c.predistortion) {
         // Pre-distortion: equalise the whole chain's pass-band magnitude

@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <memory>
 
+#include "effects/effect_chain.h"
 #include "io/dsd_writer.h"
 #include "io/path_names.h"
 #include "io/pcm_reader.h"
@@ -80,9 +82,19 @@ int runForward(RunContext& ctx)
                    input.c_str(), in.sampleRate);
             return kExitFailure;
         }
-        if (in.channels > io::maxChannels(container)) {
-            report(ctx, "a DSF file holds at most %d channels and %s has %d: use a .dff output",
-                   io::maxChannels(container), input.c_str(), in.channels);
+        std::string why;
+        const int outs = effects::outputChannels(o.effects, in.channels, why);
+        if (outs == 0) {
+            report(ctx, "%s", why.c_str());
+            return kExitUsage;
+        }
+        if (outs > io::maxChannels(container)) {
+            if (outs == in.channels)
+                report(ctx, "a DSF file holds at most %d channels and %s has %d: use a .dff output",
+                       io::maxChannels(container), input.c_str(), in.channels);
+            else
+                report(ctx, "a DSF file holds at most %d channels and the channel options make %d: use a .dff output",
+                       io::maxChannels(container), outs);
             return kExitUsage;
         }
         return 0;
@@ -104,7 +116,24 @@ int runForward(RunContext& ctx)
                  tags.artist.c_str(), tags.title.c_str(), tags.album.c_str(), tags.genre.c_str(), tags.year.c_str(),
                  tags.track, tags.comment.c_str());
 
-    const dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
+    effects::EffectChain chain;
+    if (!chain.build(o.effects, in.channels, in.sampleRate, error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitUsage;
+    }
+    dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
+    if (!chain.empty()) {
+        config.effectGain = chain.worstCaseGain();
+        ctx.log.line("effects (%d -> %d channels):", chain.inChannels(), chain.outChannels());
+        for (const std::string& line : chain.description())
+            ctx.log.line("%s", line.c_str());
+        ctx.log.line("effects: worst-case gain %+.2f dB (largest sum of |H| over inputs, any frequency)",
+                     20 * std::log10(config.effectGain));
+        if (config.effectGain > 1.0) {
+            chain.addLimiter(config.effectGain * effects::kLimiterCeilingMargin);
+            ctx.log.line("%s", chain.description().back().c_str());
+        }
+    }
     auto design = dsp::designForward(config, &error);
     if (!design) {
         report(ctx, "design refused: %s", error.c_str());
@@ -121,6 +150,16 @@ int runForward(RunContext& ctx)
                  summary.appliedGain, summary.passbandRippleDb, summary.stopbandAttenuationDb, summary.maxStableInputDbfs);
     if (o.verbose || !o.logTopics.empty())
         std::fprintf(stderr, "%s\n", summary.text.c_str());
+    if (config.effectGain > 1.0) {
+        const char* how = summary.gainLoweredForEffects ? "the requested gain was lowered"
+                          : o.gain                     ? "the requested gain already leaves room"
+                                                       : "the automatic gain was lowered";
+        ctx.log.line("headroom: effects can raise the level by %.2f dB; %s to %.2f dB so the modulator stays "
+                     "below its stable level", 20 * std::log10(config.effectGain), how,
+                     20 * std::log10(summary.appliedGain));
+        detail(ctx, "headroom: effects can add %.2f dB; %s (gain %.2f dB)", 20 * std::log10(config.effectGain), how,
+               20 * std::log10(summary.appliedGain));
+    }
 
     if (!outputFolderExists(o.output, &error)) {
         report(ctx, "%s", error.c_str());
@@ -130,23 +169,24 @@ int runForward(RunContext& ctx)
     const int dstLevel = o.dst ? o.dstLevel : 0;
     if (dstLevel > 0)
         ctx.log.line("DST compression level %d", dstLevel);
-    if (!writer->open(o.output, {in.channels, dsdRate, dstLevel}, tags, &error)) {
+    if (!writer->open(o.output, {chain.outChannels(), dsdRate, dstLevel}, tags, &error)) {
         report(ctx, "%s", error.c_str());
         return kExitFailure;
     }
 
     const auto channels = static_cast<std::size_t>(in.channels);
+    const int outChannels = chain.outChannels();
     std::vector<dsp::ChannelEncoder> encoders;
-    encoders.reserve(channels);
-    for (std::size_t c = 0; c < channels; ++c)
+    encoders.reserve(static_cast<std::size_t>(outChannels));
+    for (int c = 0; c < outChannels; ++c)
         encoders.emplace_back(design);
     const std::vector<std::size_t> source = channelSources(channels, o.swapChannels);
 
-    ChannelPool pool(ChannelPool::threadsFor(in.channels));
+    ChannelPool pool(ChannelPool::threadsFor(std::max(in.channels, outChannels)));
     const std::size_t frames = blockFrames(in.sampleRate, dsdRate);
     std::vector<double> interleaved;
     std::vector<std::vector<double>> planar(channels);
-    std::vector<std::vector<std::uint8_t>> bytes(channels);
+    std::vector<std::vector<std::uint8_t>> bytes(static_cast<std::size_t>(outChannels));
     std::vector<ChannelLevel> levels(channels);
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
@@ -166,13 +206,27 @@ int runForward(RunContext& ctx)
         if (got == 0)
             break;
         const auto n = static_cast<std::size_t>(got);
-        pool.run(in.channels, [&](int ci) {
-            const auto c = static_cast<std::size_t>(ci);
-            takeChannel(interleaved, channels, source[c], n, planar[c]);
-            levels[c].add(planar[c].data(), n, 1);
-            bytes[c].clear();
-            encoders[c].process(planar[c].data(), n, bytes[c]);
-        });
+        if (chain.empty()) {
+            pool.run(in.channels, [&](int ci) {
+                const auto c = static_cast<std::size_t>(ci);
+                takeChannel(interleaved, channels, source[c], n, planar[c]);
+                levels[c].add(planar[c].data(), n, 1);
+                bytes[c].clear();
+                encoders[c].process(planar[c].data(), n, bytes[c]);
+            });
+        } else {
+            planar.resize(channels);
+            for (std::size_t c = 0; c < channels; ++c) {
+                takeChannel(interleaved, channels, source[c], n, planar[c]);
+                levels[c].add(planar[c].data(), n, 1);
+            }
+            const std::size_t ready = chain.run(planar, n);
+            pool.run(outChannels, [&](int ci) {
+                const auto c = static_cast<std::size_t>(ci);
+                bytes[c].clear();
+                encoders[c].process(planar[c].data(), ready, bytes[c]);
+            });
+        }
         if (!writer->write(bytes, &error)) {
             writer->discard();
             report(ctx, "%s", error.c_str());
@@ -185,9 +239,12 @@ int runForward(RunContext& ctx)
             ctx.progress.update(100.0 * static_cast<double>(done) / static_cast<double>(in.frames), speed);
     }
     if (!stopped) {
-        pool.run(in.channels, [&](int ci) {
+        const std::size_t tail = chain.empty() ? 0 : chain.drain(planar);
+        pool.run(outChannels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
             bytes[c].clear();
+            if (tail > 0)
+                encoders[c].process(planar[c].data(), tail, bytes[c]);
             encoders[c].finish(bytes[c]);
         });
         if (!writer->write(bytes, &error)) {
@@ -208,13 +265,18 @@ int runForward(RunContext& ctx)
     ctx.log.line("converted %.3f s of audio in %.3f s (%.1fx realtime), %llu DSD bytes per channel", seconds, elapsed,
                  elapsed > 0 ? seconds / elapsed : 0.0, static_cast<unsigned long long>(writer->bytesPerChannel()));
     std::uint64_t overloads = 0;
-    for (std::size_t c = 0; c < channels; ++c) {
+    for (std::size_t c = 0; c < channels; ++c)
+        ctx.log.line("input channel %zu: peak %.2f dBFS, rms %.2f dBFS", c + 1, levels[c].peakDbfs(),
+                     levels[c].rmsDbfs());
+    for (std::size_t c = 0; c < encoders.size(); ++c) {
         const auto st = encoders[c].stats();
         overloads += st.overloads;
-        ctx.log.line("channel %zu: input peak %.2f dBFS, rms %.2f dBFS; modulator peak input %.4f, overloads %llu, resets %llu",
-                     c + 1, levels[c].peakDbfs(), levels[c].rmsDbfs(), st.peakInput,
+        ctx.log.line("output channel %zu: modulator peak input %.4f, overloads %llu, resets %llu", c + 1, st.peakInput,
                      static_cast<unsigned long long>(st.overloads), static_cast<unsigned long long>(st.resets));
     }
+    if (!chain.empty() && chain.limitedSamples() > 0)
+        ctx.log.line("safety limiter: %llu sample(s) turned down, by at most %.2f dB",
+                     static_cast<unsigned long long>(chain.limitedSamples()), -20 * std::log10(chain.smallestLimiterGain()));
     if (overloads > 0)
         report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
                static_cast<unsigned long long>(overloads));

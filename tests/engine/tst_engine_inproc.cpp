@@ -99,7 +99,7 @@ void EngineInprocTest::convertsWithoutQueue()
     QCOMPARE(probe["streams"].toArray().at(0).toObject()["channels"].toInt(), 2);
     QVERIFY(dsdDurationMatches(probe, 0.5, 2822400));
     // A usage error in-process is a return value, not an exit.
-    QCOMPARE(callEngine({"-i", input(0.5), "--hrtf", "ms", out, "-inproc-host"}), 2);
+    QCOMPARE(callEngine({"-i", input(0.5), "--bass", "loud", out, "-inproc-host"}), 2);
 }
 
 void EngineInprocTest::stopThroughQueue()

@@ -116,9 +116,11 @@ void EngineUsageTest::unsupportedOptionsAllNamedBeforeOutput()
                                    "--apo", "--crossfeed", "custom", "-6.000000", "-12.000000", "--zero", "0.1",
                                    "0.2", out, "--surround", "15", "80", "side", "20"});
     QCOMPARE(r.exitCode, 2);
-    for (const char* name : {"--eq", "--hrtf", "--hrtf-mix", "--bass", "--equalizer", "--compressor",
-                             "--apo", "--crossfeed", "--zero", "--surround"})
+    for (const char* name : {"--compressor", "--apo", "--crossfeed", "--zero"})
         QVERIFY2(r.err.contains(QString(name) + ",") || r.err.contains(QString(name) + "\n"), name);
+    // Implemented effects among them are accepted, not listed as refused.
+    for (const char* name : {"--eq,", "--bass,", "--equalizer,", "--surround", "--hrtf"})
+        QVERIFY2(!r.err.contains(name), name);
     // Values of refused options are not mistaken for options or outputs.
     QVERIFY(!r.err.contains("unknown"));
     QVERIFY(!QFile::exists(out));

@@ -161,7 +161,7 @@ PresetLoad PresetStore::load(const QString& path, const ConversionSettings* base
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         result.status = PresetLoad::CannotRead;
-        result.error = file.errorString();
+        result.error = QCoreApplication::translate("PresetStore", "无法读取文件");
         return result;
     }
     // A preset is a few kilobytes; anything vastly larger is not one of ours

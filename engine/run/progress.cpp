@@ -18,7 +18,9 @@ void ProgressReporter::update(double percent, double speed)
         // 100.0 is kept for finish() so the caller can trust it means done.
         if (tenth == lastTenth_ || tenth >= 1000)
             return;
-        std::fprintf(stdout, "[PROGRESS] %.1f\n", tenth / 10.0);
+        // Integers, not %.1f: an in-process engine shares the host's locale,
+        // and a decimal comma would break the protocol line.
+        std::fprintf(stdout, "[PROGRESS] %d.%d\n", tenth / 10, tenth % 10);
         std::fflush(stdout);
     } else if (tty_) {
         if (tenth == lastTenth_)

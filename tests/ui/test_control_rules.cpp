@@ -51,7 +51,9 @@ QLineEdit* byPlaceholder(QWidget* root, const QString& text)
 
 QString logText(MainWindow& w)
 {
-    return w.findChild<LogPane*>()->toPlainText();
+    LogPane* pane = w.findChild<LogPane*>();
+    pane->flushPending();
+    return pane->toPlainText();
 }
 
 // Closes the window-modal warning the rule opened and returns its text.

@@ -128,7 +128,9 @@ void setFreshOutputFields(ConversionSettings& s)
 
 QString logText(MainWindow& w)
 {
-    return w.findChild<LogPane*>()->toPlainText();
+    LogPane* pane = w.findChild<LogPane*>();
+    pane->flushPending();
+    return pane->toPlainText();
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "quit_on_signal.h"
 #include "screenshot.h"
 #include "startup_env.h"
+#include "update_ui.h"
 
 namespace {
 
@@ -47,6 +48,8 @@ int main(int argc, char** argv)
     quitEventLoopOnTerminationSignals();
 
     auto window = std::make_unique<MainWindow>();
+    // Updates: the status-bar button, right of whatever the window put there.
+    addUpdateButton(window.get());
     window->ensureEngineLogPath();
     if (qEnvironmentVariableIsSet("ZUVO_AI_AUTORUN"))
         window->runAutorun(qEnvironmentVariable("ZUVO_AI_AUTORUN"), qEnvironmentVariableIsSet("ZUVO_AI_AUTOCLOSE"));
@@ -55,6 +58,8 @@ int main(int argc, char** argv)
     const QString shotPath = qEnvironmentVariable("ZUVO_GUI_SHOT");
     if (!shotPath.isEmpty())
         saveWindowScreenshot(window.get(), shotPath);
+    // Updates: the silent check (skipped when ZUVO_NO_UPDATE_CHECK is given).
+    startStartupUpdateCheck(window.get());
 
     const int code = QApplication::exec();
     window.reset();

@@ -15,6 +15,10 @@
 #include "update_checker.h"
 #include "update_version.h"
 
+namespace {
+constexpr qint64 kSizeSlack = 1 << 20;
+} // namespace
+
 UpdateDownloader::UpdateDownloader(QNetworkAccessManager* net, QObject* parent)
     : QObject(parent), net_(net), target_(InstallTarget::forThisProgram())
 {
@@ -80,8 +84,9 @@ void UpdateDownloader::startStage()
         const QByteArray chunk = reply->readAll();
         if (file_ && file_->write(chunk) != chunk.size())
             reply->abort();
-        // A server that sends more than announced is not sending our file.
-        if (file_ && expected > 0 && file_->size() > expected)
+        // A server that sends far more than announced is not sending our
+        // file; a little more still reaches the size check and its message.
+        if (file_ && expected > 0 && file_->size() > expected + kSizeSlack)
             reply->abort();
     });
     connect(reply, &QNetworkReply::downloadProgress, this, &UpdateDownloader::progress);

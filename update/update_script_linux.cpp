@@ -81,7 +81,7 @@ if [ "$1" = --install ]; then
     exit $status
 fi
 
-while kill -0 "$pid" 2>/dev/null; do sleep 1; done
+while [ "$pid" -gt 1 ] && kill -0 "$pid" 2>/dev/null; do sleep 1; done
 
 if [ -n "$elevate" ]; then
     pkexec /bin/sh "$0" --install

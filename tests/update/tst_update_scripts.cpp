@@ -47,12 +47,15 @@ QMap<QString, QByteArray> snapshot(const QString& root)
     return out;
 }
 
+// The id of a process that has already ended, as the script will see it.
 qint64 finishedPid()
 {
     QProcess p;
     p.start(QStringLiteral("true"));
+    p.waitForStarted();
+    const qint64 pid = p.processId();
     p.waitForFinished();
-    return p.processId() ? p.processId() : 999999;
+    return pid;
 }
 
 QString sha256Of(const QString& path)

@@ -55,6 +55,12 @@ UpdateUi::UpdateUi(QWidget* parent, bool silent)
     }
 }
 
+UpdateUi::~UpdateUi()
+{
+    // A dialog without a parent window is not deleted with us otherwise.
+    delete progress_;
+}
+
 void UpdateUi::closeProgress()
 {
     if (progress_) {

@@ -20,6 +20,8 @@ public:
     // Starts a check; silent checks show nothing unless an update is found.
     static UpdateUi* checkForUpdates(QWidget* parent, bool silent);
 
+    ~UpdateUi() override;
+
     UpdateChecker* checker() const { return checker_; }
 
     // Where the release notes live, opened by "打开下载页".

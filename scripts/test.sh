@@ -8,3 +8,5 @@ export QT_QPA_PLATFORM=offscreen
 ctest --test-dir build --output-on-failure --timeout 600 "$@"
 # The session and queue suites again under the thread and address sanitizers.
 scripts/test-sanitizers.sh
+# The update manifest and archive parsers under libFuzzer, briefly.
+fuzz/run_update.sh 15

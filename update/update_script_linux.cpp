@@ -94,6 +94,7 @@ if [ "$status" -ne 0 ]; then
     exit 1
 fi
 "$program" < /dev/null &
+log "program restarted (pid $!)"
 exit 0
 )SH";
 

@@ -15,6 +15,7 @@
 #include <shellapi.h>
 #else
 #include <QProcess>
+#include <unistd.h>
 #endif
 
 namespace {
@@ -57,7 +58,12 @@ InstallOutcome launchUpdateScript(const InstallRequest& request, const InstallTa
     plan.overwriteSha256 = request.overwriteSha256;
     plannedPaths(request.members, &plan.writtenPaths, &plan.directoryPaths);
     plan.backupDir = UpdateDownloader::downloadFolder() + QStringLiteral("/backup");
-    const bool writable = isWritableFolder(target.installDir);
+    bool writable = isWritableFolder(target.installDir);
+#ifndef Q_OS_WIN
+    // A Debian package is installed by dpkg, which needs the administrator.
+    if (request.installerPath.endsWith(QLatin1String(".deb")) && geteuid() != 0)
+        writable = false;
+#endif
     plan.elevate = !writable;
 
 #ifdef Q_OS_WIN

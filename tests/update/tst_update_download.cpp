@@ -57,6 +57,7 @@ private slots:
     void nothingToDownload();
     void failedDownload();
     void verifiedPayloadStaysWhenTheScriptCannotBeWritten();
+    void downloadFolderThatIsALinkIsRefused();
 
 private:
     // A scratch installation whose program leaves a mark when started.
@@ -263,6 +264,23 @@ void TestUpdateDownload::verifiedPayloadStaysWhenTheScriptCannotBeWritten()
     QVERIFY(r.failed);
     QCOMPARE(r.message, QStringLiteral("无法写更新脚本: %1").arg(script));
     QCOMPARE(readAll(downloaded(QStringLiteral("kept.tar"))), payload);
+}
+
+void TestUpdateDownload::downloadFolderThatIsALinkIsRefused()
+{
+    // Someone else's "zuvo-update" in a shared temporary folder, here a link.
+    QTemporaryDir shared;
+    QVERIFY(QFile::link(work_.path(), shared.filePath(QStringLiteral("zuvo-update"))));
+    qputenv("TMPDIR", QFile::encodeName(shared.path()));
+    server_.put(QStringLiteral("link.tar"), "data");
+    UpdateInfo info;
+    info.version = QStringLiteral("9.9.9");
+    info.overwrite = {QStringLiteral("link.tar"), server_.url(QStringLiteral("link.tar")), 0, UpdateTestServer::sha256("data")};
+    const RunResult r = run(info, makeInstall(QStringLiteral("link")));
+    qputenv("TMPDIR", QFile::encodeName(tmp_.path()));
+    QVERIFY(r.failed);
+    QCOMPARE(r.message, QStringLiteral("无法写入临时文件: %1").arg(shared.filePath(QStringLiteral("zuvo-update/link.tar"))));
+    QVERIFY(!QFile::exists(work_.filePath(QStringLiteral("link.tar"))));
 }
 
 QTEST_GUILESS_MAIN(TestUpdateDownload)

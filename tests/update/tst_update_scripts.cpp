@@ -79,6 +79,7 @@ private slots:
     void linuxInstallFailingHalfWayIsRolledBack();
     void linuxFallsBackToTheInstaller();
     void linuxScriptQuotesHostilePaths();
+    void linuxElevatesOnlyTheInstallStep();
 
 private:
     struct Scene {
@@ -87,7 +88,7 @@ private:
         UpdateScriptPlan plan;
     };
     void buildScene(Scene& s);
-    int runScript(const Scene& s, QString* log = nullptr);
+    int runScript(const Scene& s, QString* log = nullptr, const QString& extraPath = QString());
 };
 
 void TestUpdateScripts::windowsScriptWithBothPayloads()
@@ -189,7 +190,7 @@ void TestUpdateScripts::buildScene(Scene& s)
     plannedPaths(members, &s.plan.writtenPaths, &s.plan.directoryPaths);
 }
 
-int TestUpdateScripts::runScript(const Scene& s, QString* log)
+int TestUpdateScripts::runScript(const Scene& s, QString* log, const QString& extraPath)
 {
     const QString path = s.tmp.filePath(QStringLiteral("dl/zuvo-update.sh"));
     QFile f(path);
@@ -198,6 +199,11 @@ int TestUpdateScripts::runScript(const Scene& s, QString* log)
     f.close();
     QProcess sh;
     sh.setProcessChannelMode(QProcess::MergedChannels);
+    if (!extraPath.isEmpty()) {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("PATH"), extraPath + QLatin1Char(':') + env.value(QStringLiteral("PATH")));
+        sh.setProcessEnvironment(env);
+    }
     sh.start(QStringLiteral("/bin/sh"), {path});
     sh.waitForFinished(60000);
     if (log)
@@ -286,6 +292,25 @@ void TestUpdateScripts::linuxScriptQuotesHostilePaths()
     QVERIFY(QFile::exists(s.dest + "/update-failed.txt"));
     QVERIFY(!QFile::exists(s.tmp.filePath(QStringLiteral("dl/pwned"))));
     QVERIFY(!QFile::exists(QStringLiteral("pwned")));
+}
+
+void TestUpdateScripts::linuxElevatesOnlyTheInstallStep()
+{
+    Scene s;
+    buildScene(s);
+    s.plan.elevate = true;
+    // A stand-in for pkexec that notes how it was called and runs the command.
+    const QString bin = s.tmp.filePath(QStringLiteral("fakebin"));
+    const QString calls = s.tmp.filePath(QStringLiteral("pkexec-calls"));
+    writeFile(bin + "/pkexec", "#!/bin/sh\necho \"$*\" >> '" + calls.toUtf8() + "'\nexec \"$@\"\n", true);
+    QCOMPARE(runScript(s, nullptr, bin), 0);
+    QFile f(calls);
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    const QString script = s.tmp.filePath(QStringLiteral("dl/zuvo-update.sh"));
+    QCOMPARE(f.readAll(), ("/bin/sh " + script + " --install\n").toUtf8());
+    // The restart is not elevated: it happens in the unelevated part.
+    QTRY_COMPARE_WITH_TIMEOUT(snapshot(s.dest).value("share/doc/readme").endsWith("Fnew readme"), true, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(s.marker), 5000);
 }
 
 QTEST_GUILESS_MAIN(TestUpdateScripts)

@@ -66,7 +66,8 @@ void readPax(const QByteArray& data, QString* path, QString* link)
             return;
         bool ok = false;
         const qsizetype len = data.mid(pos, space - pos).toLongLong(&ok);
-        if (!ok || len <= space - pos || pos + len > data.size())
+        // A record holds at least its length, a blank, "k=" and a newline.
+        if (!ok || len < space - pos + 4 || len > data.size() - pos)
             return;
         const QByteArray record = data.mid(space + 1, len - (space - pos) - 2);
         const qsizetype eq = record.indexOf('=');

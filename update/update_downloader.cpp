@@ -35,7 +35,6 @@ void UpdateDownloader::start(const UpdateInfo& info)
 {
     stages_.clear();
     current_ = 0;
-    version_ = info.version;
     // Never go back: whatever the manifest says, an older or equal release is
     // not installed over this one.
     if (compareVersions(appVersion(), info.version) >= 0) {
@@ -64,6 +63,7 @@ void UpdateDownloader::startStage()
         || !file_->open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         file_.reset();
         const QString reason = trChecker("无法写入临时文件: %1").arg(stage.localPath);
+        stage.localPath.clear(); // nothing of this stage is handed to the installer
         emit status(reason);
         if (current_ + 1 < stages_.size()) {
             ++current_;

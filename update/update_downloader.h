@@ -56,5 +56,4 @@ private:
     int current_ = 0;
     std::unique_ptr<QFile> file_;
     int timeoutMs_ = 60000;
-    QString version_;
 };

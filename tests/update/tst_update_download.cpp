@@ -58,6 +58,7 @@ private slots:
     void failedDownload();
     void verifiedPayloadStaysWhenTheScriptCannotBeWritten();
     void downloadFolderThatIsALinkIsRefused();
+    void unwritableOverwriteGoesOnWithTheInstaller();
 
 private:
     // A scratch installation whose program leaves a mark when started.
@@ -281,6 +282,25 @@ void TestUpdateDownload::downloadFolderThatIsALinkIsRefused()
     QVERIFY(r.failed);
     QCOMPARE(r.message, QStringLiteral("无法写入临时文件: %1").arg(shared.filePath(QStringLiteral("zuvo-update/link.tar"))));
     QVERIFY(!QFile::exists(work_.filePath(QStringLiteral("link.tar"))));
+}
+
+void TestUpdateDownload::unwritableOverwriteGoesOnWithTheInstaller()
+{
+    const InstallTarget target = makeInstall(QStringLiteral("unwritable"));
+    const QByteArray installer = "#!/bin/sh\necho ran > '" + target.installDir.toUtf8() + "/installer-ran'\n";
+    server_.put(QStringLiteral("setup2.run"), installer);
+    UpdateInfo info;
+    info.version = QStringLiteral("9.9.9");
+    // A name that cannot be a file here (the manifest reader refuses it too).
+    info.overwrite = {QStringLiteral("sub/x.tar"), server_.url(QStringLiteral("x.tar")), 0, QStringLiteral("ab")};
+    info.installer = {QStringLiteral("setup2.run"), server_.url(QStringLiteral("setup2.run")), 0, UpdateTestServer::sha256(installer)};
+    const RunResult r = run(info, target);
+    QVERIFY2(r.finished, qPrintable(r.message));
+    QVERIFY(r.statuses.contains(QStringLiteral("无法写入临时文件: %1").arg(downloaded(QStringLiteral("sub/x.tar")))));
+    QVERIFY(server_.requests().filter(QStringLiteral("/x.tar\t")).isEmpty());
+    const QByteArray script = readAll(downloaded(QStringLiteral("zuvo-update.sh")));
+    QVERIFY(script.contains("\npayload=''\n"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(target.installDir + QStringLiteral("/installer-ran")), 15000);
 }
 
 QTEST_GUILESS_MAIN(TestUpdateDownload)

@@ -29,10 +29,17 @@ run() {
     mkdir -p "$work"
     echo "== $name (${limit[*]})"
     # Findings land in $out; the seed corpus in the repository stays untouched.
+    local status=0
     "$out/$name" "${limit[@]}" -max_len=65536 -timeout=10 -rss_limit_mb=2048 \
-        -artifact_prefix="$out/$name-" -print_final_stats=1 "$work" "fuzz/corpus/$corpus" 2>&1 |
-        grep -E "^(#[0-9]+ +DONE|stat::number_of_executed_units|stat::peak_rss|==[0-9]+==ERROR|SUMMARY|Done)" || true
-    [ "${PIPESTATUS[0]}" -eq 0 ]
+        -artifact_prefix="$out/$name-" -print_final_stats=1 "$work" "fuzz/corpus/$corpus" \
+        > "$out/$name.log" 2>&1 || status=$?
+    grep -E "^(#[0-9]+ +DONE|stat::number_of_executed_units|stat::peak_rss|==[0-9]+==ERROR|SUMMARY|Done)" "$out/$name.log" || true
+    if [ "$status" -ne 0 ]; then
+        echo "$name: finding (exit $status), see $out/$name.log"
+        return 1
+    fi
 }
-run fuzz_update_manifest update_manifest
-run fuzz_update_tar update_tar
+failed=0
+run fuzz_update_manifest update_manifest || failed=1
+run fuzz_update_tar update_tar || failed=1
+exit $failed

@@ -172,14 +172,10 @@ QString readTarListing(QIODevice& device, QList<TarMember>* members)
 
 QString normalisedMemberPath(const QString& path)
 {
-    QString p = path;
-    while (p.startsWith(QLatin1String("./")))
-        p.remove(0, 2);
-    while (p.endsWith(QLatin1Char('/')))
-        p.chop(1);
-    if (p == QLatin1String("."))
-        p.clear();
-    return p;
+    // "a//b", "./a/./b/" and "a/b" all name the same place.
+    QStringList parts = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    parts.removeAll(QStringLiteral("."));
+    return parts.join(QLatin1Char('/'));
 }
 
 namespace {

@@ -24,5 +24,5 @@ QString readTarListing(QIODevice& device, QList<TarMember>* members);
 // passes through a link the archive itself creates. Empty string: safe.
 QString checkTarMembers(const QList<TarMember>& members);
 
-// The member path without "./" prefixes and trailing "/"; "" is the folder itself.
+// The member path without empty or "." parts; "" is the folder itself.
 QString normalisedMemberPath(const QString& path);

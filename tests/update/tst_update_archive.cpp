@@ -94,10 +94,12 @@ void TestUpdateArchive::plannedPathsPutFoldersFirst()
     m.append({QStringLiteral("./share/doc/readme"), TarMember::File, {}, 2});
     m.append({QStringLiteral("./share/doc/"), TarMember::Directory, {}, 0});
     m.append({QStringLiteral("bin/prog"), TarMember::File, {}, 2});
+    m.append({QStringLiteral(".//lib/./x"), TarMember::File, {}, 2}); // found by the fuzzer
     QStringList written, folders;
     plannedPaths(m, &written, &folders);
-    QCOMPARE(written, (QStringList{"share", "share/doc", "share/doc/readme", "bin", "bin/prog"}));
-    QCOMPARE(folders, (QStringList{"share", "share/doc", "bin"}));
+    QCOMPARE(written, (QStringList{"share", "share/doc", "share/doc/readme", "bin", "bin/prog", "lib", "lib/x"}));
+    QCOMPARE(folders, (QStringList{"share", "share/doc", "bin", "lib"}));
+    QCOMPARE(checkTarMembers(m), QString());
 }
 
 void TestUpdateArchive::emptyAndTinyInputs()

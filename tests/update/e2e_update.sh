@@ -34,8 +34,9 @@ mkdir -p "$serve"
 cp "$work/zuvo-9.9.9-linux-x64.tar" "$serve/"
 pub=$("$build/bin/zuvo-sign-manifest" genkey "$work/test-signing.pem")
 exec 3> >(python3 "$src/tests/update/update_server.py" "$serve" > "$work/port")
-sleep 1
+for _ in $(seq 1 50); do [ -s "$work/port" ] && break; sleep 0.2; done
 port=$(head -1 "$work/port")
+[ -n "$port" ] || { echo "the test server did not start"; exit 1; }
 
 publish() { # $1 sha256 of the payload
     cat > "$serve/latest.json" <<JSON
@@ -48,13 +49,17 @@ JSON
 }
 fingerprint() { (cd "$prefix" && find . -type f -exec sha256sum {} + | sort | sha256sum); }
 
-run_program() { # $1 log file; waits until the program quits or $2 seconds pass
+run_program() { # $1 log file, $2 text that ends the run; waits until the program quits or 90 s pass
     env QT_QPA_PLATFORM=offscreen TMPDIR="$work/tmp" ZUVO_NO_UPDATE_CHECK=1 ZUVO_UPDATE_TEST_CLICK=1 \
         ZUVO_UPDATE_URL="http://127.0.0.1:$port/latest.json" ZUVO_UPDATE_TEST_PUBKEY="$pub" \
         "$prefix/bin/ZuvoAudioTools" > "$1" 2>&1 &
     local pid=$!
     pids+=("$pid")
-    for _ in $(seq 1 "$2"); do kill -0 "$pid" 2>/dev/null || return 0; sleep 1; done
+    for _ in $(seq 1 180); do
+        kill -0 "$pid" 2>/dev/null || return 0
+        if grep -q "$2" "$1"; then sleep 1; break; fi
+        sleep 0.5
+    done
     kill "$pid" 2>/dev/null || true
     wait "$pid" 2>/dev/null || true
 }
@@ -67,7 +72,7 @@ check() { if eval "$2"; then echo "ok   - $1"; else echo "FAIL - $1"; failures=$
 echo "# tampered manifest"
 publish "$payload_sha"
 sed -i 's/End-to-end/End-to-End/' "$serve/latest.json"
-run_program "$work/tampered-manifest.log" 8
+run_program "$work/tampered-manifest.log" "box updateFailedBox"
 grep '\[test-hook\]\|\[update\]' "$work/tampered-manifest.log" || true
 check "tampered manifest refused with a reason" "grep -q '签名无效' '$work/tampered-manifest.log'"
 check "installation untouched" "[ \"\$(fingerprint)\" = '$before' ]"
@@ -75,7 +80,7 @@ check "installation untouched" "[ \"\$(fingerprint)\" = '$before' ]"
 echo "# tampered payload"
 publish "$payload_sha"
 printf 'X' | dd of="$serve/zuvo-9.9.9-linux-x64.tar" bs=1 seek=2000 conv=notrunc 2>/dev/null
-run_program "$work/tampered-payload.log" 10
+run_program "$work/tampered-payload.log" "box updateFailedInstallBox"
 grep '\[test-hook\]\|\[update\]' "$work/tampered-payload.log" || true
 check "tampered payload refused with a reason" "grep -q 'updateFailedInstallBox: 校验和不匹配' '$work/tampered-payload.log'"
 check "installation untouched" "[ \"\$(fingerprint)\" = '$before' ]"
@@ -84,12 +89,12 @@ check "unverified payload deleted" "[ ! -e '$work/tmp/zuvo-update/zuvo-9.9.9-lin
 echo "# good update"
 cp "$work/zuvo-9.9.9-linux-x64.tar" "$serve/"
 publish "$payload_sha"
-run_program "$work/update.log" 30
+run_program "$work/update.log" "no-such-text: wait for the program to quit"
 grep '\[test-hook\]\|\[update\]' "$work/update.log" || true
 check "offer shown" "grep -q 'updateOfferBox: 发现新版本 9.9.9（当前 0.1.0）' '$work/update.log'"
 check "program quit after the update was handed over" "grep -q 'updateDoneBox: 更新已下载并校验通过' '$work/update.log'"
 # The restarted program runs the same clicks; its check now says 9.9.9 is current.
-for _ in $(seq 1 30); do grep -q 'updateLatestBox' "$work/tmp/zuvo-update/update.log" 2>/dev/null && break; sleep 1; done
+for _ in $(seq 1 90); do grep -q 'updateLatestBox' "$work/tmp/zuvo-update/update.log" 2>/dev/null && break; sleep 1; done
 grep '\[test-hook\]\|\[update\]' "$work/tmp/zuvo-update/update.log" || true
 check "restarted as 9.9.9" "grep -q 'already latest: local 9.9.9, remote 9.9.9' '$work/tmp/zuvo-update/update.log'"
 check "installed files are the 9.9.9 layout" "cmp -s '$prefix/bin/ZuvoAudioTools' '$work/stage/bin/ZuvoAudioTools'"

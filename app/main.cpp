@@ -20,6 +20,7 @@
 #include "screenshot.h"
 #include "smoke_report.h"
 #include "startup_env.h"
+#include "update_ui.h"
 
 namespace {
 
@@ -59,6 +60,8 @@ int main(int argc, char** argv)
     auto window = std::make_unique<MainWindow>();
     window->statusBar()->addPermanentWidget(new QLabel(QCoreApplication::translate("UiLangRow", "语言"), window.get()));
     window->statusBar()->addPermanentWidget(makeLanguageSelector(window.get()));
+    // Updates: the status-bar button, right of whatever the window put there.
+    addUpdateButton(window.get());
     window->ensureEngineLogPath();
     if (qEnvironmentVariableIsSet("ZUVO_AI_AUTORUN"))
         window->runAutorun(qEnvironmentVariable("ZUVO_AI_AUTORUN"), qEnvironmentVariableIsSet("ZUVO_AI_AUTOCLOSE"));
@@ -75,6 +78,8 @@ int main(int argc, char** argv)
     const QString shotPath = qEnvironmentVariable("ZUVO_GUI_SHOT");
     if (!shotPath.isEmpty())
         saveWindowScreenshot(window.get(), shotPath);
+    // Updates: the silent check (skipped when ZUVO_NO_UPDATE_CHECK is given).
+    startStartupUpdateCheck(window.get());
 
     window->runPlaytestHook(); // start-up test hooks: at most one of the chain runs
     window->runPreviewHook();

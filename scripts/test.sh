@@ -10,3 +10,5 @@ ctest --test-dir build --output-on-failure --timeout 600 "$@"
 scripts/test-sanitizers.sh
 # The preview WAV reader under libFuzzer, briefly.
 fuzz/run_preview.sh -max_total_time=20
+# The update manifest and archive parsers under libFuzzer, briefly.
+fuzz/run_update.sh 15

@@ -9,8 +9,8 @@ import sys
 import xml.etree.ElementTree as ET
 
 PLACEHOLDER = re.compile(r"%(?:L?[1-9][0-9]?|n)")
-# "&" followed by a letter or digit marks an accelerator; "&&" is a literal.
-ACCELERATOR = re.compile(r"(?<!&)&(?!&)(?=\w)")
+# A single "&" marks an accelerator in a widget text; "&&" is a literal &.
+ACCELERATOR = re.compile(r"(?<!&)&(?!&)")
 
 
 def placeholders(text):

@@ -24,14 +24,6 @@
         <translation>✗ トラック別プリセットを解析できません。このファイルには現在のパラメーターを使用します: %1 (%2)</translation>
     </message>
     <message>
-        <source>无法读取文件</source>
-        <translation>ファイルを読み込めません</translation>
-    </message>
-    <message>
-        <source>不是 JSON 对象</source>
-        <translation>JSON オブジェクトではありません</translation>
-    </message>
-    <message>
         <source>逐轨预设《%1》</source>
         <translation>トラック別プリセット「%1」</translation>
     </message>
@@ -142,6 +134,118 @@
     <message>
         <source>[控制] %1</source>
         <translation>[制御] %1</translation>
+    </message>
+    <message>
+        <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件是空的</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是 DSF 文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSF 格式块不对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSF 数据块不对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSF 元数据位置不对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是 DSDIFF 文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSDIFF 块超出文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSDIFF 缺少 FVER/PROP/声音块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是 WAV 文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RF64 的 ds64 块不对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WAV 缺少格式块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WAV 数据块超出文件 (文件不完整)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WAV 格式块不对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WAV 缺少数据块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是 W64 文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W64 块超出文件 (文件不完整)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W64 缺少格式块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W64 缺少数据块</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是 FLAC 文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC 缺少 STREAMINFO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法打开</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1039,6 +1143,122 @@
         <source>干湿比 (0=dry, 1=全效果):</source>
         <translation>ドライ/ウェット (0=dry、1=フルエフェクト):</translation>
     </message>
+    <message>
+        <source>播放</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AUTORUN 预设: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备名直接传给 ZuvoPlayer -dev</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DAC 设备:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>流式播放模式 (-stream)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放正在进行中, 请先停止当前播放</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>错误: 播放文件不存在或无法读取: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(未设置输出文件)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>启动播放器: %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>开始播放: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>试听会话: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>进程内(直接调库)</source>
+        <translation type="unfinished">プロセス内 (ライブラリを直接呼び出し)</translation>
+    </message>
+    <message>
+        <source>子进程</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>错误: 无法启动播放器 — %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放器异常退出, 代码: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>当前没有播放任务</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在停止播放器…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation type="unfinished">[制御] %1</translation>
+    </message>
+    <message>
+        <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>仍无响应, 强制结束播放器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>检查更新…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>
@@ -1188,6 +1408,10 @@
         <source>顶层不是 JSON 对象</source>
         <translation>最上位が JSON オブジェクトではありません</translation>
     </message>
+    <message>
+        <source>无法读取文件</source>
+        <translation type="unfinished">ファイルを読み込めません</translation>
+    </message>
 </context>
 <context>
     <name>RunControlsPanel</name>
@@ -1243,6 +1467,73 @@
     <message>
         <source>界面语言已切换，程序将自动重启一次以生效。</source>
         <translation>表示言語を切り替えました。反映するためにプログラムが自動的に一度再起動します。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateUi</name>
+    <message>
+        <source>正在检查更新…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>检查更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>检查更新失败：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>发现新版本 %1（当前 %2）。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>发布日期：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>更新说明：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>发现新版本</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下载并更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打开下载页</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>稍后</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在下载更新…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>下载更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>更新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>程序现在退出。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>更新失败</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,9 @@ QString hzLabel(double hz)
 EqCurveWidget::EqCurveWidget(QWidget* parent) : QWidget(parent)
 {
     setMinimumSize(240, 150);
+    // A frequency plot reads left to right in every language; so do its
+    // axis labels ("12 dB", not "dB 12" in a right-to-left interface).
+    setLayoutDirection(Qt::LeftToRight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     recompute();
 }

@@ -585,6 +585,20 @@ ModulatorRunner::ModulatorRunner(const ModulatorDesign* d)
     maxAbsState.assign(d->n, 0.0);
 }
 
+namespace {
+// A NaN or infinity in the state passes every clip test (comparisons with
+// NaN are false) and stays forever, pinning the output to one value: the
+// loop is dead, not overloaded. Checked once per call or window, not per
+// sample.
+bool stateFinite(const double* x, int n)
+{
+    double sum = 0;
+    for (int i = 0; i < n; ++i)
+        sum += x[i] * 0.0;
+    return sum == 0.0;
+}
+} // namespace
+
 void ModulatorRunner::reset()
 {
     std::fill(x_.begin(), x_.end(), 0.0);
@@ -624,6 +638,11 @@ std::size_t ModulatorRunner::runWindowed(const double* u, std::size_t nblocks, s
         const std::size_t c
             = runBlocks(d_->kernel, x_.data(), u + blocks * kBlock, nb, dst, flags_.data(), nullptr, packed);
         overloads += c;
+        if (!stateFinite(x_.data(), d_->n)) {
+            std::fill(x_.begin(), x_.end(), 0.0);
+            ++resets;
+            ++nonFiniteResets;
+        }
         windowClipped_ += std::uint32_t(c) * kBlock;
         windowCount_ += std::uint32_t(nb) * kBlock;
         blocks += nb;
@@ -719,10 +738,19 @@ void ModulatorRunner::runSamples(const double* u, std::size_t n, std::uint8_t* b
                 if (windowClipped_ > 64) {
                     std::fill(x, x + N, 0.0);
                     ++resets;
+                } else if (!stateFinite(x, N)) {
+                    std::fill(x, x + N, 0.0);
+                    ++resets;
+                    ++nonFiniteResets;
                 }
                 windowCount_ = windowClipped_ = 0;
             }
         }
+    }
+    if (clipping && !stateFinite(x, N)) {
+        std::fill(x, x + N, 0.0);
+        ++resets;
+        ++nonFiniteResets;
     }
     if (x != x_.data())
         std::memcpy(x_.data(), x, sizeof(double) * N);

@@ -62,6 +62,7 @@ public:
     void runPacked(const double* u, std::size_t n, std::vector<std::uint8_t>& out, unsigned& acc, int& nacc);
     void reset();
     std::uint64_t overloads = 0, resets = 0;
+    std::uint64_t nonFiniteResets = 0; // resets of a state that held NaN or infinity
     // Test/design hooks.
     bool clipping = true;
     double maxAbsY = 0;

@@ -1,6 +1,7 @@
 #pragma once
 #include "io/channel_backlog.h"
 #include "io/dsd_writer.h"
+#include "io/header_clock.h"
 
 namespace zuvo::io {
 
@@ -14,6 +15,8 @@ public:
 
 private:
     bool writeInterleaved(std::size_t n, std::string* error);
+    // Form and sound data sizes of what is on disk so far.
+    bool refreshHeader(std::string* error);
 
     OutputFile file_;
     DsdFormat format_;
@@ -22,6 +25,7 @@ private:
     std::vector<std::uint8_t> interleaved_;
     std::uint64_t validBytes_ = 0;
     std::uint64_t dsdChunkOffset_ = 0;
+    HeaderClock clock_{kHeaderRefreshSeconds};
 };
 
 } // namespace zuvo::io

@@ -3,8 +3,11 @@
 #include <cerrno>
 #include <cstring>
 
+#include <unistd.h>
+
 #include "io/dff_reader.h"
 #include "io/dsf_reader.h"
+#include "io/input_file.h"
 
 namespace zuvo::io {
 
@@ -17,13 +20,26 @@ DsdReader::~DsdReader()
 bool DsdReader::openFile(const std::string& path, std::string* error)
 {
     path_ = path;
-    file_ = std::fopen(path.c_str(), "rb");
+    const InputFd in = openRegularInput(path, error);
+    if (in.fd < 0)
+        return false;
+    file_ = ::fdopen(in.fd, "rb");
     if (!file_) {
         if (error)
             *error = "cannot open " + path + ": " + std::strerror(errno);
+        ::close(in.fd);
         return false;
     }
+    fileSize_ = in.size;
     return true;
+}
+
+bool DsdReader::truncated(std::string* error, const char* what, std::uint64_t declared, std::uint64_t found) const
+{
+    if (error)
+        *error = path_ + " is truncated: its header declares " + std::to_string(declared) + " " + what
+            + " and the file holds " + std::to_string(found);
+    return false;
 }
 
 bool DsdReader::readExact(void* dst, std::size_t n)
@@ -33,20 +49,18 @@ bool DsdReader::readExact(void* dst, std::size_t n)
 
 bool DsdReader::seek(std::uint64_t offset)
 {
-    return fseeko(file_, static_cast<off_t>(offset), SEEK_SET) == 0;
+    // Past the end of the file is never a valid place to read from.
+    return offset <= fileSize_ && fseeko(file_, static_cast<off_t>(offset), SEEK_SET) == 0;
 }
 
 std::unique_ptr<DsdReader> openDsdFile(const std::string& path, std::string* error)
 {
-    std::FILE* f = std::fopen(path.c_str(), "rb");
-    if (!f) {
-        if (error)
-            *error = "cannot open " + path + ": " + std::strerror(errno);
+    const InputFd in = openRegularInput(path, error);
+    if (in.fd < 0)
         return nullptr;
-    }
     char magic[4] = {};
-    const std::size_t got = std::fread(magic, 1, 4, f);
-    std::fclose(f);
+    const ssize_t got = ::read(in.fd, magic, 4);
+    ::close(in.fd);
     std::unique_ptr<DsdReader> reader;
     if (got == 4 && std::memcmp(magic, "DSD ", 4) == 0)
         reader = std::make_unique<DsfReader>();

@@ -34,9 +34,13 @@ protected:
     bool openFile(const std::string& path, std::string* error);
     bool readExact(void* dst, std::size_t n);
     bool seek(std::uint64_t offset);
+    // "<path> is truncated: ..." with what the header declares and what the
+    // file holds, the one wording every input uses.
+    bool truncated(std::string* error, const char* what, std::uint64_t declared, std::uint64_t found) const;
 
     std::FILE* file_ = nullptr;
     std::string path_;
+    std::uint64_t fileSize_ = 0; // every offset and size read is checked against it
     DsdStreamInfo info_;
     Tags tags_;
     std::uint64_t consumed_ = 0; // bytes per channel delivered

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "io/channel_layout.h"
 #include "io/output_file.h"
 #include "io/tags.h"
 
@@ -16,7 +17,15 @@ namespace zuvo::io {
 struct DsdFormat {
     int channels = 2;
     int sampleRate = 2822400; // 1-bit samples per second per channel
+    // Speakers of the channels in the order they are written (see
+    // containerOrder); empty means defaultLayout(channels).
+    ChannelLayout layout;
 };
+
+// A run killed mid-way (or a power cut) leaves whatever reached the disk:
+// the writers rewrite their size fields this often so that it is a valid,
+// shorter file.
+constexpr double kHeaderRefreshSeconds = 1.0;
 
 class DsdWriter {
 public:

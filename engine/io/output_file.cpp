@@ -104,6 +104,18 @@ bool OutputFile::patchBE(std::uint64_t offset, std::uint64_t v, int bytes, std::
     return patch(offset, b, bytes, error);
 }
 
+bool OutputFile::sync(std::string* error)
+{
+    if (!file_)
+        return fail(error, "not open:");
+    errno = 0;
+    if (std::fflush(file_) != 0)
+        return fail(error, "cannot write");
+    if (::fdatasync(fileno(file_)) != 0 && errno != EINVAL && errno != EROFS)
+        return fail(error, "cannot write");
+    return true;
+}
+
 bool OutputFile::close(std::string* error)
 {
     if (!file_)

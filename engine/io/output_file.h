@@ -25,6 +25,9 @@ public:
     bool patchLE(std::uint64_t offset, std::uint64_t v, int bytes, std::string* error);
     bool patchBE(std::uint64_t offset, std::uint64_t v, int bytes, std::string* error);
     std::uint64_t position() const { return written_; }
+    // Pushes the buffered bytes to the kernel and to the disk, so that sizes
+    // patched after it never promise more than is there.
+    bool sync(std::string* error);
     // Flushes and closes; the file stays. False when any byte did not reach it.
     bool close(std::string* error);
     // Closes and deletes what was written (failure path).

@@ -81,6 +81,12 @@ int runForward(RunContext& ctx)
                    io::maxChannels(container), input.c_str(), in.channels);
             return kExitUsage;
         }
+        if (container == io::DsdContainer::Dsf
+            && io::dsfChannelType(writtenLayout(in.layout, io::containerOrder(in.layout))) == 0) {
+            report(ctx, "a DSF file has no channel type for the channels of %s (%s): use a .dff output",
+                   input.c_str(), io::layoutText(in.layout).c_str());
+            return kExitUsage;
+        }
         return 0;
     });
     if (refused)
@@ -122,8 +128,11 @@ int runForward(RunContext& ctx)
         report(ctx, "%s", error.c_str());
         return kExitFailure;
     }
+    // Channels go out in the container's order and carry the input's
+    // speaker positions (its channel mask) as the container's labels.
+    const std::vector<std::size_t> order = io::containerOrder(in.layout);
     auto writer = io::makeDsdWriter(container);
-    if (!writer->open(o.output, {in.channels, dsdRate}, tags, &error)) {
+    if (!writer->open(o.output, {in.channels, dsdRate, writtenLayout(in.layout, order)}, tags, &error)) {
         report(ctx, "%s", error.c_str());
         return kExitFailure;
     }
@@ -133,7 +142,7 @@ int runForward(RunContext& ctx)
     encoders.reserve(channels);
     for (std::size_t c = 0; c < channels; ++c)
         encoders.emplace_back(design);
-    const std::vector<std::size_t> source = channelSources(channels, o.swapChannels);
+    const std::vector<std::size_t> source = channelSources(order, o.swapChannels);
 
     ChannelPool pool(ChannelPool::threadsFor(in.channels));
     const std::size_t frames = blockFrames(in.sampleRate, dsdRate);
@@ -141,6 +150,7 @@ int runForward(RunContext& ctx)
     std::vector<std::vector<double>> planar(channels);
     std::vector<std::vector<std::uint8_t>> bytes(channels);
     std::vector<ChannelLevel> levels(channels);
+    std::vector<std::uint64_t> nonFinite(channels, 0);
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
     bool stopped = false;
@@ -161,7 +171,7 @@ int runForward(RunContext& ctx)
         const auto n = static_cast<std::size_t>(got);
         pool.run(in.channels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
-            takeChannel(interleaved, channels, source[c], n, planar[c]);
+            nonFinite[c] += takeChannel(interleaved, channels, source[c], n, planar[c]);
             levels[c].add(planar[c].data(), n, 1);
             bytes[c].clear();
             encoders[c].process(planar[c].data(), n, bytes[c]);
@@ -208,6 +218,7 @@ int runForward(RunContext& ctx)
                      c + 1, levels[c].peakDbfs(), levels[c].rmsDbfs(), st.peakInput,
                      static_cast<unsigned long long>(st.overloads), static_cast<unsigned long long>(st.resets));
     }
+    reportSignalRepairs(ctx, nonFinite, encoders);
     if (overloads > 0)
         report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
                static_cast<unsigned long long>(overloads));

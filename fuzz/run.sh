@@ -25,8 +25,12 @@ cmake -S fuzz -B "$build" -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER
 cmake --build "$build" >/dev/null
 
 work="$build/work"
-rm -rf "$work/seeds"
-python3 fuzz/make_corpus.py "$work/seeds"
+mkdir -p "$work"
+# Seeds of this run only, so that two runs on different targets can share
+# the build folder.
+seeds_dir=$(mktemp -d "$work/seeds.XXXXXX")
+trap 'rm -rf "$seeds_dir"' EXIT
+python3 fuzz/make_corpus.py "$seeds_dir"
 findings="${FUZZ_JOBS_DIR:-$work/findings}"
 mkdir -p "$findings"
 
@@ -42,7 +46,7 @@ for t in "${targets[@]}"; do
     fi
     corpus="$work/corpus/$t"
     mkdir -p "$corpus"
-    seeds=("$work/seeds/$t")
+    seeds=("$seeds_dir/$t")
     [ -d "fuzz/corpus/$t" ] && seeds+=("fuzz/corpus/$t")
     # The committed regression inputs must pass first, on their own.
     if [ -d "fuzz/corpus/$t" ] && ls "fuzz/corpus/$t"/* >/dev/null 2>&1; then

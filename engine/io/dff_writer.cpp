@@ -165,15 +165,17 @@ bool DffWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, 
     const std::size_t common = pending_.common();
     if (common > 0 && !writeInterleaved(common, error))
         return false;
-    return !clock_.due() || refreshHeader(error);
+    if (clock_.due())
+        return refreshHeader(true, error);
+    return file_.pendingBytes() < kRefreshPendingBytes || refreshHeader(false, error);
 }
 
-bool DffWriter::refreshHeader(std::string* error)
+bool DffWriter::refreshHeader(bool toDisk, std::string* error)
 {
     // An odd data size lacks its pad byte until the end; readers accept
     // that of a file's last chunk.
     const std::uint64_t dataBytes = validBytes_ * pending_.channels();
-    return file_.sync(error) && file_.patchBE(4, dsdChunkOffset_ + dataBytes, 8, error)
+    return file_.sync(error, toDisk) && file_.patchBE(4, dsdChunkOffset_ + dataBytes, 8, error)
         && file_.patchBE(dsdChunkOffset_ + 4, dataBytes, 8, error);
 }
 

@@ -16,7 +16,8 @@ public:
 private:
     bool writeInterleaved(std::size_t n, std::string* error);
     // Form and sound data sizes of what is on disk so far.
-    bool refreshHeader(std::string* error);
+    // `toDisk`: wait for the bytes to reach the disk first (once a second).
+    bool refreshHeader(bool toDisk, std::string* error);
 
     OutputFile file_;
     DsdFormat format_;

@@ -25,7 +25,11 @@ struct DsdFormat {
 // A run killed mid-way (or a power cut) leaves whatever reached the disk:
 // the writers rewrite their size fields this often so that it is a valid,
 // shorter file.
+// Between refreshes the new bytes wait in memory (see OutputFile), so the
+// file on disk is always one the writer completed; past this many pending
+// bytes a refresh comes early.
 constexpr double kHeaderRefreshSeconds = 1.0;
+constexpr std::size_t kRefreshPendingBytes = std::size_t(8) << 20;
 
 class DsdWriter {
 public:

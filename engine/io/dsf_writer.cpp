@@ -95,13 +95,15 @@ bool DsfWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, 
     // Drop what went out so the buffers stay one block deep.
     pending_.drop(offset_);
     offset_ = 0;
-    return !clock_.due() || refreshHeader(error);
+    if (clock_.due())
+        return refreshHeader(true, error);
+    return file_.pendingBytes() < kRefreshPendingBytes || refreshHeader(false, error);
 }
 
-bool DsfWriter::refreshHeader(std::string* error)
+bool DsfWriter::refreshHeader(bool toDisk, std::string* error)
 {
     const std::uint64_t dataBytes = blocks_ * kBlock * static_cast<std::uint64_t>(format_.channels);
-    return file_.sync(error) && file_.patchLE(12, kDataStart + dataBytes, 8, error)
+    return file_.sync(error, toDisk) && file_.patchLE(12, kDataStart + dataBytes, 8, error)
         && file_.patchLE(kHeaderSize + 36, validBytes_ * 8, 8, error)
         && file_.patchLE(kHeaderSize + kFmtSize + 4, kDataHeadSize + dataBytes, 8, error);
 }

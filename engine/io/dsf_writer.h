@@ -16,7 +16,8 @@ public:
 private:
     bool flushBlocks(bool padLast, std::string* error);
     // Sizes of what is on disk so far, valid as a file that ends here.
-    bool refreshHeader(std::string* error);
+    // `toDisk`: wait for the bytes to reach the disk first (once a second).
+    bool refreshHeader(bool toDisk, std::string* error);
 
     OutputFile file_;
     DsdFormat format_;

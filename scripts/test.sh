@@ -8,3 +8,5 @@ export QT_QPA_PLATFORM=offscreen
 ctest --test-dir build --output-on-failure --timeout 600 "$@"
 # The session and queue suites again under the thread and address sanitizers.
 scripts/test-sanitizers.sh
+# Each fuzz target briefly (about 20 s each) on its seed corpus.
+fuzz/run.sh --brief

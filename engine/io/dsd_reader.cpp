@@ -17,8 +17,20 @@ DsdReader::~DsdReader()
         std::fclose(file_);
 }
 
+bool DsdReader::attachMemory(const std::uint8_t* data, std::size_t size, const std::string& name)
+{
+    if (file_ || size == 0)
+        return false;
+    file_ = ::fmemopen(const_cast<std::uint8_t*>(data), size, "rb");
+    path_ = name;
+    fileSize_ = size;
+    return file_ != nullptr;
+}
+
 bool DsdReader::openFile(const std::string& path, std::string* error)
 {
+    if (file_)
+        return true;
     path_ = path;
     const InputFd in = openRegularInput(path, error);
     if (in.fd < 0)
@@ -72,6 +84,24 @@ std::unique_ptr<DsdReader> openDsdFile(const std::string& path, std::string* err
         return nullptr;
     }
     if (!reader->open(path, error))
+        return nullptr;
+    return reader;
+}
+
+std::unique_ptr<DsdReader> openDsdMemory(const std::uint8_t* data, std::size_t size, const std::string& name,
+                                         std::string* error)
+{
+    std::unique_ptr<DsdReader> reader;
+    if (size >= 4 && std::memcmp(data, "DSD ", 4) == 0)
+        reader = std::make_unique<DsfReader>();
+    else if (size >= 4 && std::memcmp(data, "FRM8", 4) == 0)
+        reader = std::make_unique<DffReader>();
+    if (!reader || !reader->attachMemory(data, size, name)) {
+        if (error)
+            *error = name + " is neither a DSF nor a DSDIFF file";
+        return nullptr;
+    }
+    if (!reader->open(name, error))
         return nullptr;
     return reader;
 }

@@ -5,7 +5,8 @@
 #   fuzz/run.sh                 each target for N executions (default 10000000)
 #   fuzz/run.sh --brief         each target for about 20 s (CI)
 #   fuzz/run.sh [--brief] TARGET...   only those (dsf_reader dff_reader engine_cli preset_json)
-# Environment: FUZZ_RUNS=N, FUZZ_SECONDS=S (brief), FUZZ_JOBS_DIR (where findings go).
+# Environment: FUZZ_RUNS=N, FUZZ_SECONDS=S (brief), FUZZ_MAX_LEN=bytes (16384),
+# FUZZ_JOBS_DIR (where findings go).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$(pwd)
@@ -59,7 +60,7 @@ for t in "${targets[@]}"; do
         limit=(-runs="${FUZZ_RUNS:-10000000}")
     fi
     # -timeout catches a parser that loops; -rss_limit_mb one that hoards memory.
-    if "$bin" "${limit[@]}" -timeout=10 -rss_limit_mb=2048 -malloc_limit_mb=1024 -max_len=65536 \
+    if "$bin" "${limit[@]}" -timeout=10 -rss_limit_mb=2048 -malloc_limit_mb=1024 -max_len="${FUZZ_MAX_LEN:-16384}" \
         -artifact_prefix="$findings/$t-" -print_final_stats=1 "$corpus" "${seeds[@]}" >"$work/$t.log" 2>&1; then
         runs=$(grep -o 'stat::number_of_executed_units: *[0-9]*' "$work/$t.log" | grep -o '[0-9]*$' || true)
         speed=$(grep -o 'stat::average_exec_per_sec: *[0-9]*' "$work/$t.log" | grep -o '[0-9]*$' || true)

@@ -588,8 +588,7 @@ ModulatorRunner::ModulatorRunner(const ModulatorDesign* d)
 namespace {
 // A NaN or infinity in the state passes every clip test (comparisons with
 // NaN are false) and stays forever, pinning the output to one value: the
-// loop is dead, not overloaded. Checked once per call or window, not per
-// sample.
+// loop is dead, not overloaded.
 bool stateFinite(const double* x, int n)
 {
     double sum = 0;
@@ -598,6 +597,17 @@ bool stateFinite(const double* x, int n)
     return sum == 0.0;
 }
 } // namespace
+
+// Once per call, outside the sample loops, so that those stay as they are.
+__attribute__((noinline)) void ModulatorRunner::resetIfDead()
+{
+    if (stateFinite(x_.data(), d_->n))
+        return;
+    std::fill(x_.begin(), x_.end(), 0.0);
+    windowCount_ = windowClipped_ = 0;
+    ++resets;
+    ++nonFiniteResets;
+}
 
 void ModulatorRunner::reset()
 {
@@ -617,12 +627,15 @@ void ModulatorRunner::run(const double* u, std::size_t n, std::uint8_t* bits)
     }
     if (track || !clipping || d_->kernel.np == 0) {
         runSamples(u, n, bits);
+        if (clipping)
+            resetIfDead();
         return;
     }
     const std::size_t nb = n / kBlock;
     std::size_t done = runWindowed(u, nb, bits, false);
     if (done < n)
         runSamples(u + done, n - done, bits + done);
+    resetIfDead();
 }
 
 std::size_t ModulatorRunner::runWindowed(const double* u, std::size_t nblocks, std::uint8_t* out, bool packed)
@@ -638,11 +651,6 @@ std::size_t ModulatorRunner::runWindowed(const double* u, std::size_t nblocks, s
         const std::size_t c
             = runBlocks(d_->kernel, x_.data(), u + blocks * kBlock, nb, dst, flags_.data(), nullptr, packed);
         overloads += c;
-        if (!stateFinite(x_.data(), d_->n)) {
-            std::fill(x_.begin(), x_.end(), 0.0);
-            ++resets;
-            ++nonFiniteResets;
-        }
         windowClipped_ += std::uint32_t(c) * kBlock;
         windowCount_ += std::uint32_t(nb) * kBlock;
         blocks += nb;
@@ -686,6 +694,8 @@ void ModulatorRunner::runPacked(const double* u, std::size_t n, std::vector<std:
     }
     while (i < n)
         single(std::min<std::size_t>(n - i, 8));
+    if (clipping)
+        resetIfDead();
 }
 
 void ModulatorRunner::runSamples(const double* u, std::size_t n, std::uint8_t* bits)
@@ -738,19 +748,10 @@ void ModulatorRunner::runSamples(const double* u, std::size_t n, std::uint8_t* b
                 if (windowClipped_ > 64) {
                     std::fill(x, x + N, 0.0);
                     ++resets;
-                } else if (!stateFinite(x, N)) {
-                    std::fill(x, x + N, 0.0);
-                    ++resets;
-                    ++nonFiniteResets;
                 }
                 windowCount_ = windowClipped_ = 0;
             }
         }
-    }
-    if (clipping && !stateFinite(x, N)) {
-        std::fill(x, x + N, 0.0);
-        ++resets;
-        ++nonFiniteResets;
     }
     if (x != x_.data())
         std::memcpy(x_.data(), x, sizeof(double) * N);

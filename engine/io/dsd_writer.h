@@ -29,7 +29,7 @@ struct DsdFormat {
 // file on disk is always one the writer completed; past this many pending
 // bytes a refresh comes early.
 constexpr double kHeaderRefreshSeconds = 1.0;
-constexpr std::size_t kRefreshPendingBytes = std::size_t(8) << 20;
+constexpr std::size_t kRefreshPendingBytes = std::size_t(2) << 20;
 
 class DsdWriter {
 public:

@@ -71,6 +71,8 @@ bool DsfReader::open(const std::string& path, std::string* error)
     if (dataChunk < 12)
         return bad("data chunk size " + std::to_string(dataChunk));
     dataStart_ = dataHead + 12;
+    if (dataStart_ > fileSize_)
+        return bad("no data chunk");
     // The sample count is what must be there; the data chunk's size may say
     // a little more (a streaming writer's placeholder) or the file may end
     // inside the padding of its last block. Neither is missing audio.

@@ -64,7 +64,7 @@ int encode(const char* in, const char* out, int level)
         return 1;
     io::DffWriter w;
     std::string error;
-    if (!w.open(out, {info.channels, info.sampleRate, level}, {}, &error) || !w.write(data, &error)
+    if (!w.open(out, {info.channels, info.sampleRate, {}, level}, {}, &error) || !w.write(data, &error)
         || !w.finalize(&error)) {
         std::fprintf(stderr, "%s\n", error.c_str());
         return 1;

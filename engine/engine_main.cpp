@@ -16,6 +16,7 @@
 #include "run/engine_log.h"
 #include "run/exit_codes.h"
 #include "run/forward_run.h"
+#include "run/output_checks.h"
 #include "run/reverse_run.h"
 
 namespace {
@@ -64,6 +65,13 @@ int run(std::vector<std::string> args)
     const zuvo::cli::EngineOptions& o = parsed.options;
 
     zuvo::run::EngineLog log;
+    if (const std::string clash = zuvo::run::logFileClash(o.logFile, o.inputs, o.output); !clash.empty()) {
+        std::fprintf(stderr, "ZuvoEngine: the log file is the same file as %s: %s\n",
+                     clash == o.output ? "the output" : "an input", o.logFile.c_str());
+        std::fprintf(stderr, "ZuvoEngine: nothing was converted (see --help)\n");
+        std::fflush(stderr);
+        return zuvo::kExitUsage;
+    }
     if (!o.logFile.empty()) {
         std::string error;
         if (!log.open(o.logFile, &error))

@@ -102,6 +102,7 @@ public:
     struct Stats {
         std::uint64_t overloads = 0;   // state checks (one per 8 samples) at which the modulator state was clipped
         std::uint64_t resets = 0;      // times the modulator had to be reset
+        std::uint64_t nonFiniteResets = 0; // of which because its state held NaN or infinity
         double peakInput = 0;          // largest |sample| after gain
     };
     Stats stats() const;

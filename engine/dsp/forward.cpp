@@ -383,6 +383,7 @@ ChannelEncoder::Stats ChannelEncoder::stats() const
     Stats s;
     s.overloads = impl_->mod.overloads;
     s.resets = impl_->mod.resets;
+    s.nonFiniteResets = impl_->mod.nonFiniteResets;
     s.peakInput = impl_->peak;
     return s;
 }

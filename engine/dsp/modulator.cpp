@@ -585,6 +585,30 @@ ModulatorRunner::ModulatorRunner(const ModulatorDesign* d)
     maxAbsState.assign(d->n, 0.0);
 }
 
+namespace {
+// A NaN or infinity in the state passes every clip test (comparisons with
+// NaN are false) and stays forever, pinning the output to one value: the
+// loop is dead, not overloaded.
+bool stateFinite(const double* x, int n)
+{
+    double sum = 0;
+    for (int i = 0; i < n; ++i)
+        sum += x[i] * 0.0;
+    return sum == 0.0;
+}
+} // namespace
+
+// Once per call, outside the sample loops, so that those stay as they are.
+__attribute__((noinline)) void ModulatorRunner::resetIfDead()
+{
+    if (stateFinite(x_.data(), d_->n))
+        return;
+    std::fill(x_.begin(), x_.end(), 0.0);
+    windowCount_ = windowClipped_ = 0;
+    ++resets;
+    ++nonFiniteResets;
+}
+
 void ModulatorRunner::reset()
 {
     std::fill(x_.begin(), x_.end(), 0.0);
@@ -603,12 +627,15 @@ void ModulatorRunner::run(const double* u, std::size_t n, std::uint8_t* bits)
     }
     if (track || !clipping || d_->kernel.np == 0) {
         runSamples(u, n, bits);
+        if (clipping)
+            resetIfDead();
         return;
     }
     const std::size_t nb = n / kBlock;
     std::size_t done = runWindowed(u, nb, bits, false);
     if (done < n)
         runSamples(u + done, n - done, bits + done);
+    resetIfDead();
 }
 
 std::size_t ModulatorRunner::runWindowed(const double* u, std::size_t nblocks, std::uint8_t* out, bool packed)
@@ -667,6 +694,8 @@ void ModulatorRunner::runPacked(const double* u, std::size_t n, std::vector<std:
     }
     while (i < n)
         single(std::min<std::size_t>(n - i, 8));
+    if (clipping)
+        resetIfDead();
 }
 
 void ModulatorRunner::runSamples(const double* u, std::size_t n, std::uint8_t* bits)

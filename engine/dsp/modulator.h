@@ -62,6 +62,7 @@ public:
     void runPacked(const double* u, std::size_t n, std::vector<std::uint8_t>& out, unsigned& acc, int& nacc);
     void reset();
     std::uint64_t overloads = 0, resets = 0;
+    std::uint64_t nonFiniteResets = 0; // resets of a state that held NaN or infinity
     // Test/design hooks.
     bool clipping = true;
     double maxAbsY = 0;
@@ -72,6 +73,8 @@ public:
 private:
     const ModulatorDesign* d_;
     void runSamples(const double* u, std::size_t n, std::uint8_t* bits);
+    // Resets a state that holds NaN or infinity (counted in nonFiniteResets).
+    void resetIfDead();
     // Runs whole blocks with the overload window; returns samples done.
     std::size_t runWindowed(const double* u, std::size_t nblocks, std::uint8_t* bits, bool packed);
     std::vector<double> x_, xn_;

@@ -39,25 +39,16 @@ void putChunk(Bytes& b, const char* id, const Bytes& body)
         b.push_back(0);
 }
 
-void putCountedText(Bytes& b, const std::string& text)
+// Count and text. In COMT each comment carries its own pad byte inside the
+// chunk; DIAR and DITI are nothing but the text, so their pad byte is the
+// chunk's, outside its size (putChunk adds it).
+enum class TextPad { InBody, ChunkPads };
+void putCountedText(Bytes& b, const std::string& text, TextPad pad)
 {
     putBE(b, text.size(), 4);
     b.insert(b.end(), text.begin(), text.end());
-    if (text.size() & 1)
+    if ((text.size() & 1) && pad == TextPad::InBody)
         b.push_back(0);
-}
-
-const char* channelId(int channels, int index)
-{
-    static const char* stereo[] = {"SLFT", "SRGT"};
-    static const char* multi[] = {"MLFT", "MRGT", "C   ", "LFE ", "LS  ", "RS  "};
-    if (channels == 1)
-        return "C   ";
-    if (channels == 2)
-        return stereo[index];
-    if (channels <= 6)
-        return multi[index];
-    return nullptr;
 }
 
 Bytes propChunkBody(const DsdFormat& f)
@@ -69,15 +60,8 @@ Bytes propChunkBody(const DsdFormat& f)
     putChunk(prop, "FS  ", fs);
     Bytes chnl;
     putBE(chnl, static_cast<std::uint64_t>(f.channels), 2);
-    for (int c = 0; c < f.channels; ++c) {
-        if (const char* id = channelId(f.channels, c)) {
-            putId(chnl, id);
-        } else {
-            char numbered[8];
-            std::snprintf(numbered, sizeof numbered, "C%03d", c % 1000);
-            putId(chnl, numbered);
-        }
-    }
+    for (const std::string& id : dffChannelIds(f.layout.empty() ? defaultLayout(f.channels) : f.layout))
+        putId(chnl, id.c_str());
     putChunk(prop, "CHNL", chnl);
     Bytes cmpr;
     putId(cmpr, "DSD ");
@@ -106,17 +90,17 @@ Bytes tagChunks(const Tags& tags)
         comt.push_back(static_cast<std::uint8_t>(tm.tm_min));
         putBE(comt, 0, 2); // general comment
         putBE(comt, 0, 2); // no reference
-        putCountedText(comt, tags.comment);
+        putCountedText(comt, tags.comment, TextPad::InBody);
         putChunk(out, "COMT", comt);
     }
     // DIIN with artist and title is written even when both are empty: the
     // front-end always sends them for .dff and some players expect it.
     Bytes diin;
     Bytes diar;
-    putCountedText(diar, tags.artist);
+    putCountedText(diar, tags.artist, TextPad::ChunkPads);
     putChunk(diin, "DIAR", diar);
     Bytes diti;
-    putCountedText(diti, tags.title);
+    putCountedText(diti, tags.title, TextPad::ChunkPads);
     putChunk(diin, "DITI", diti);
     putChunk(out, "DIIN", diin);
     return out;
@@ -126,7 +110,8 @@ Bytes tagChunks(const Tags& tags)
 
 bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tags& tags, std::string* error)
 {
-    if (format.channels < 1 || format.channels > 1000) {
+    if (format.channels < 1 || format.channels > 1000
+        || (!format.layout.empty() && format.layout.size() != static_cast<std::size_t>(format.channels))) {
         if (error)
             *error = "unsupported channel count for DSDIFF";
         return false;
@@ -141,7 +126,7 @@ bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tag
 
     Bytes head;
     putId(head, "FRM8");
-    putBE(head, 0, 8); // form size, patched at the end
+    putBE(head, 0, 8); // form size, set below and kept up to date
     putId(head, "DSD ");
     Bytes fver;
     putBE(fver, 0x01050000, 4);
@@ -155,8 +140,12 @@ bool DffWriter::open(const std::string& path, const DsdFormat& format, const Tag
         head.insert(head.end(), dstHead.begin(), dstHead.end());
     } else {
         putId(head, "DSD ");
-        putBE(head, 0, 8); // sound data size, patched at the end
+        putBE(head, 0, 8); // sound data size, kept up to date
     }
+    // The form holds everything up to here: a valid file from the start.
+    const std::uint64_t formSize = head.size() - 12;
+    for (int i = 0; i < 8; ++i)
+        head[static_cast<std::size_t>(4 + i)] = static_cast<std::uint8_t>(formSize >> (8 * (7 - i)));
     if (!file_.open(path, error))
         return false;
     return file_.write(head.data(), head.size(), error);
@@ -185,10 +174,27 @@ bool DffWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, 
     if (useDst_) {
         const bool ok = dst_.push(file_, pending_, error);
         validBytes_ = dst_.validBytes();
+        // Frames are committed as they come so memory stays bounded; the
+        // DST chunk's sizes and index are only written by finalize.
+        if (ok && (clock_.due() || file_.pendingBytes() >= kRefreshPendingBytes))
+            return file_.sync(error, false);
         return ok;
     }
     const std::size_t common = pending_.common();
-    return common == 0 || writeInterleaved(common, error);
+    if (common > 0 && !writeInterleaved(common, error))
+        return false;
+    if (clock_.due())
+        return refreshHeader(true, error);
+    return file_.pendingBytes() < kRefreshPendingBytes || refreshHeader(false, error);
+}
+
+bool DffWriter::refreshHeader(bool toDisk, std::string* error)
+{
+    // An odd data size lacks its pad byte until the end; readers accept
+    // that of a file's last chunk.
+    const std::uint64_t dataBytes = validBytes_ * pending_.channels();
+    return file_.sync(error, toDisk) && file_.patchBE(4, dsdChunkOffset_ + dataBytes, 8, error)
+        && file_.patchBE(dsdChunkOffset_ + 4, dataBytes, 8, error);
 }
 
 bool DffWriter::finalize(std::string* error)

@@ -2,6 +2,7 @@
 #include "io/channel_backlog.h"
 #include "io/dff_dst_writer.h"
 #include "io/dsd_writer.h"
+#include "io/header_clock.h"
 
 namespace zuvo::io {
 
@@ -16,6 +17,9 @@ public:
 private:
     bool writeInterleaved(std::size_t n, std::string* error);
     bool finalizeDst(std::string* error);
+    // Form and sound data sizes of what is on disk so far.
+    // `toDisk`: wait for the bytes to reach the disk first (once a second).
+    bool refreshHeader(bool toDisk, std::string* error);
 
     OutputFile file_;
     DsdFormat format_;
@@ -26,6 +30,7 @@ private:
     std::uint64_t dsdChunkOffset_ = 0;
     bool useDst_ = false;
     DffDstSink dst_;
+    HeaderClock clock_{kHeaderRefreshSeconds};
 };
 
 } // namespace zuvo::io

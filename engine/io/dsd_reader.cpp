@@ -3,8 +3,11 @@
 #include <cerrno>
 #include <cstring>
 
+#include <unistd.h>
+
 #include "io/dff_reader.h"
 #include "io/dsf_reader.h"
+#include "io/input_file.h"
 
 namespace zuvo::io {
 
@@ -14,16 +17,41 @@ DsdReader::~DsdReader()
         std::fclose(file_);
 }
 
+bool DsdReader::attachMemory(const std::uint8_t* data, std::size_t size, const std::string& name)
+{
+    if (file_ || size == 0)
+        return false;
+    file_ = ::fmemopen(const_cast<std::uint8_t*>(data), size, "rb");
+    path_ = name;
+    fileSize_ = size;
+    return file_ != nullptr;
+}
+
 bool DsdReader::openFile(const std::string& path, std::string* error)
 {
+    if (file_)
+        return true;
     path_ = path;
-    file_ = std::fopen(path.c_str(), "rb");
+    const InputFd in = openRegularInput(path, error);
+    if (in.fd < 0)
+        return false;
+    file_ = ::fdopen(in.fd, "rb");
     if (!file_) {
         if (error)
             *error = "cannot open " + path + ": " + std::strerror(errno);
+        ::close(in.fd);
         return false;
     }
+    fileSize_ = in.size;
     return true;
+}
+
+bool DsdReader::truncated(std::string* error, const char* what, std::uint64_t declared, std::uint64_t found) const
+{
+    if (error)
+        *error = path_ + " is truncated: its header declares " + std::to_string(declared) + " " + what
+            + " and the file holds " + std::to_string(found);
+    return false;
 }
 
 bool DsdReader::readExact(void* dst, std::size_t n)
@@ -33,20 +61,18 @@ bool DsdReader::readExact(void* dst, std::size_t n)
 
 bool DsdReader::seek(std::uint64_t offset)
 {
-    return fseeko(file_, static_cast<off_t>(offset), SEEK_SET) == 0;
+    // Past the end of the file is never a valid place to read from.
+    return offset <= fileSize_ && fseeko(file_, static_cast<off_t>(offset), SEEK_SET) == 0;
 }
 
 std::unique_ptr<DsdReader> openDsdFile(const std::string& path, std::string* error)
 {
-    std::FILE* f = std::fopen(path.c_str(), "rb");
-    if (!f) {
-        if (error)
-            *error = "cannot open " + path + ": " + std::strerror(errno);
+    const InputFd in = openRegularInput(path, error);
+    if (in.fd < 0)
         return nullptr;
-    }
     char magic[4] = {};
-    const std::size_t got = std::fread(magic, 1, 4, f);
-    std::fclose(f);
+    const ssize_t got = ::read(in.fd, magic, 4);
+    ::close(in.fd);
     std::unique_ptr<DsdReader> reader;
     if (got == 4 && std::memcmp(magic, "DSD ", 4) == 0)
         reader = std::make_unique<DsfReader>();
@@ -58,6 +84,24 @@ std::unique_ptr<DsdReader> openDsdFile(const std::string& path, std::string* err
         return nullptr;
     }
     if (!reader->open(path, error))
+        return nullptr;
+    return reader;
+}
+
+std::unique_ptr<DsdReader> openDsdMemory(const std::uint8_t* data, std::size_t size, const std::string& name,
+                                         std::string* error)
+{
+    std::unique_ptr<DsdReader> reader;
+    if (size >= 4 && std::memcmp(data, "DSD ", 4) == 0)
+        reader = std::make_unique<DsfReader>();
+    else if (size >= 4 && std::memcmp(data, "FRM8", 4) == 0)
+        reader = std::make_unique<DffReader>();
+    if (!reader || !reader->attachMemory(data, size, name)) {
+        if (error)
+            *error = name + " is neither a DSF nor a DSDIFF file";
+        return nullptr;
+    }
+    if (!reader->open(name, error))
         return nullptr;
     return reader;
 }

@@ -29,14 +29,22 @@ public:
     // Reads up to `maxBytes` per channel into `out[c]` (replaced). Returns the
     // bytes per channel read, 0 at the end, -1 on a read error.
     virtual long long read(std::size_t maxBytes, std::vector<std::vector<std::uint8_t>>& out, std::string* error) = 0;
+    // Reads from memory instead of a file; open() then parses it. For the
+    // fuzz targets, which feed thousands of inputs a second.
+    bool attachMemory(const std::uint8_t* data, std::size_t size, const std::string& name);
 
 protected:
+    // Opens `path`, unless attachMemory() already gave the reader its bytes.
     bool openFile(const std::string& path, std::string* error);
     bool readExact(void* dst, std::size_t n);
     bool seek(std::uint64_t offset);
+    // "<path> is truncated: ..." with what the header declares and what the
+    // file holds, the one wording every input uses.
+    bool truncated(std::string* error, const char* what, std::uint64_t declared, std::uint64_t found) const;
 
     std::FILE* file_ = nullptr;
     std::string path_;
+    std::uint64_t fileSize_ = 0; // every offset and size read is checked against it
     DsdStreamInfo info_;
     Tags tags_;
     std::uint64_t consumed_ = 0; // bytes per channel delivered
@@ -45,5 +53,8 @@ protected:
 // Chooses the reader by the file's signature ("DSD " or "FRM8"); the error
 // names the problem when the file is neither or is damaged.
 std::unique_ptr<DsdReader> openDsdFile(const std::string& path, std::string* error);
+// The same over bytes in memory (which must outlive the reader).
+std::unique_ptr<DsdReader> openDsdMemory(const std::uint8_t* data, std::size_t size, const std::string& name,
+                                         std::string* error);
 
 } // namespace zuvo::io

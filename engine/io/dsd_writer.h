@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "io/channel_layout.h"
 #include "io/output_file.h"
 #include "io/tags.h"
 
@@ -16,8 +17,20 @@ namespace zuvo::io {
 struct DsdFormat {
     int channels = 2;
     int sampleRate = 2822400; // 1-bit samples per second per channel
+    // Speakers of the channels in the order they are written (see
+    // containerOrder); empty means defaultLayout(channels).
+    ChannelLayout layout;
     int dstLevel = 0;         // DSDIFF only: DST compression level 1..9, 0 = plain DSD
 };
+
+// A run killed mid-way (or a power cut) leaves whatever reached the disk:
+// the writers rewrite their size fields this often so that it is a valid,
+// shorter file.
+// Between refreshes the new bytes wait in memory (see OutputFile), so the
+// file on disk is always one the writer completed; past this many pending
+// bytes a refresh comes early.
+constexpr double kHeaderRefreshSeconds = 1.0;
+constexpr std::size_t kRefreshPendingBytes = std::size_t(2) << 20;
 
 class DsdWriter {
 public:

@@ -17,19 +17,6 @@ constexpr std::uint64_t kDataHeadSize = 12;
 constexpr std::uint64_t kDataStart = kHeaderSize + kFmtSize + kDataHeadSize;
 constexpr std::size_t kBlock = 4096;
 
-int channelType(int channels)
-{
-    // 1 mono, 2 stereo, 3 three channels, 4 quad, 5 four channels, 6 five channels, 7 5.1
-    switch (channels) {
-    case 1: return 1;
-    case 2: return 2;
-    case 3: return 3;
-    case 4: return 4;
-    case 5: return 6;
-    case 6: return 7;
-    default: return 0;
-    }
-}
 } // namespace
 
 bool DsfWriter::open(const std::string& path, const DsdFormat& format, const Tags& tags, std::string* error)
@@ -37,6 +24,13 @@ bool DsfWriter::open(const std::string& path, const DsdFormat& format, const Tag
     if (format.channels < 1 || format.channels > 6) {
         if (error)
             *error = "a DSF file holds 1 to 6 channels (use .dff for " + std::to_string(format.channels) + ")";
+        return false;
+    }
+    const ChannelLayout layout = format.layout.empty() ? defaultLayout(format.channels) : format.layout;
+    const int channelType = dsfChannelType(layout);
+    if (channelType == 0 || layout.size() != static_cast<std::size_t>(format.channels)) {
+        if (error)
+            *error = "a DSF file has no channel type for the layout " + layoutText(layout) + " (use .dff)";
         return false;
     }
     format_ = format;
@@ -48,12 +42,12 @@ bool DsfWriter::open(const std::string& path, const DsdFormat& format, const Tag
         return false;
     OutputFile& f = file_;
     return f.write("DSD ", 4, error) && f.writeLE(kHeaderSize, 8, error)
-        && f.writeLE(0, 8, error)  // total file size, patched at the end
+        && f.writeLE(kDataStart, 8, error) // total file size, kept up to date
         && f.writeLE(0, 8, error)  // metadata pointer, patched at the end
         && f.write("fmt ", 4, error) && f.writeLE(kFmtSize, 8, error)
         && f.writeLE(1, 4, error)  // format version
         && f.writeLE(0, 4, error)  // DSD raw
-        && f.writeLE(static_cast<std::uint64_t>(channelType(format.channels)), 4, error)
+        && f.writeLE(static_cast<std::uint64_t>(channelType), 4, error)
         && f.writeLE(static_cast<std::uint64_t>(format.channels), 4, error)
         && f.writeLE(static_cast<std::uint64_t>(format.sampleRate), 4, error)
         && f.writeLE(1, 4, error)  // bits per sample: 1 = earliest bit in bit 0
@@ -101,7 +95,17 @@ bool DsfWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, 
     // Drop what went out so the buffers stay one block deep.
     pending_.drop(offset_);
     offset_ = 0;
-    return true;
+    if (clock_.due())
+        return refreshHeader(true, error);
+    return file_.pendingBytes() < kRefreshPendingBytes || refreshHeader(false, error);
+}
+
+bool DsfWriter::refreshHeader(bool toDisk, std::string* error)
+{
+    const std::uint64_t dataBytes = blocks_ * kBlock * static_cast<std::uint64_t>(format_.channels);
+    return file_.sync(error, toDisk) && file_.patchLE(12, kDataStart + dataBytes, 8, error)
+        && file_.patchLE(kHeaderSize + 36, validBytes_ * 8, 8, error)
+        && file_.patchLE(kHeaderSize + kFmtSize + 4, kDataHeadSize + dataBytes, 8, error);
 }
 
 bool DsfWriter::finalize(std::string* error)

@@ -1,6 +1,7 @@
 #pragma once
 #include "io/channel_backlog.h"
 #include "io/dsd_writer.h"
+#include "io/header_clock.h"
 
 namespace zuvo::io {
 
@@ -14,6 +15,9 @@ public:
 
 private:
     bool flushBlocks(bool padLast, std::string* error);
+    // Sizes of what is on disk so far, valid as a file that ends here.
+    // `toDisk`: wait for the bytes to reach the disk first (once a second).
+    bool refreshHeader(bool toDisk, std::string* error);
 
     OutputFile file_;
     DsdFormat format_;
@@ -22,6 +26,7 @@ private:
     std::size_t offset_ = 0;
     std::uint64_t validBytes_ = 0;
     std::uint64_t blocks_ = 0;
+    HeaderClock clock_{kHeaderRefreshSeconds};
 };
 
 } // namespace zuvo::io

@@ -8,14 +8,15 @@
 namespace zuvo::io {
 
 namespace {
-constexpr std::size_t kBufferSize = 1 << 20; // large sequential writes, few syscalls
+// Past this, pending bytes go to the kernel even without a commit, so that
+// a writer that never commits cannot hoard memory.
+constexpr std::size_t kMaxPending = std::size_t(64) << 20;
 }
 
 OutputFile::~OutputFile()
 {
     if (file_)
         discard();
-    delete[] buffer_;
 }
 
 bool OutputFile::fail(std::string* error, const char* what)
@@ -36,9 +37,10 @@ bool OutputFile::open(const std::string& path, std::string* error)
     file_ = std::fopen(path.c_str(), "wb");
     if (!file_)
         return fail(error, "cannot create");
-    if (!buffer_)
-        buffer_ = new char[kBufferSize];
-    std::setvbuf(file_, buffer_, _IOFBF, kBufferSize);
+    // Our own pending buffer batches the writes; stdio's would hand them to
+    // the kernel at moments the writer does not choose.
+    std::setvbuf(file_, nullptr, _IONBF, 0);
+    pending_.clear();
     written_ = 0;
     return true;
 }
@@ -49,10 +51,20 @@ bool OutputFile::write(const void* data, std::size_t size, std::string* error)
         return fail(error, "not open:");
     if (size == 0)
         return true;
-    errno = 0;
-    if (std::fwrite(data, 1, size, file_) != size)
-        return fail(error, "cannot write");
+    const auto* p = static_cast<const std::uint8_t*>(data);
+    pending_.insert(pending_.end(), p, p + size);
     written_ += size;
+    return pending_.size() < kMaxPending || commitPending(error);
+}
+
+bool OutputFile::commitPending(std::string* error)
+{
+    if (pending_.empty())
+        return true;
+    errno = 0;
+    if (std::fwrite(pending_.data(), 1, pending_.size(), file_) != pending_.size())
+        return fail(error, "cannot write");
+    pending_.clear();
     return true;
 }
 
@@ -74,6 +86,8 @@ bool OutputFile::writeBE(std::uint64_t v, int bytes, std::string* error)
 
 bool OutputFile::patch(std::uint64_t offset, const std::uint8_t* bytes, int n, std::string* error)
 {
+    if (!commitPending(error))
+        return false;
     errno = 0;
     if (std::fflush(file_) != 0)
         return fail(error, "cannot write");
@@ -104,12 +118,27 @@ bool OutputFile::patchBE(std::uint64_t offset, std::uint64_t v, int bytes, std::
     return patch(offset, b, bytes, error);
 }
 
+bool OutputFile::sync(std::string* error, bool toDisk)
+{
+    if (!file_)
+        return fail(error, "not open:");
+    if (!commitPending(error))
+        return false;
+    errno = 0;
+    if (std::fflush(file_) != 0)
+        return fail(error, "cannot write");
+    if (toDisk && ::fdatasync(fileno(file_)) != 0 && errno != EINVAL && errno != EROFS)
+        return fail(error, "cannot write");
+    return true;
+}
+
 bool OutputFile::close(std::string* error)
 {
     if (!file_)
         return true;
+    bool ok = commitPending(error);
     errno = 0;
-    bool ok = std::fflush(file_) == 0;
+    ok = ok && std::fflush(file_) == 0;
     if (ok && ::fsync(fileno(file_)) != 0 && errno != EINVAL && errno != EROFS)
         ok = false; // delayed allocation failures (full disk) surface here
     const int err = errno;
@@ -125,6 +154,8 @@ bool OutputFile::close(std::string* error)
 
 void OutputFile::discard()
 {
+    pending_.clear();
+    pending_.shrink_to_fit();
     if (file_) {
         std::fclose(file_);
         file_ = nullptr;

@@ -1,5 +1,9 @@
 #include "io/tags.h"
 
+#include <unistd.h>
+
+#include "io/input_file.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <cerrno>
@@ -41,8 +45,17 @@ void Tags::fillEmptyFrom(const Tags& o)
 
 bool loadCover(const std::string& path, Tags& tags, std::string* error)
 {
-    std::FILE* f = std::fopen(path.c_str(), "rb");
+    // A FIFO or device as the cover would block the run: regular files only.
+    std::string why;
+    const InputFd in = openRegularInput(path, &why);
+    if (in.fd < 0) {
+        if (error)
+            *error = "the cover image: " + why;
+        return false;
+    }
+    std::FILE* f = ::fdopen(in.fd, "rb");
     if (!f) {
+        ::close(in.fd);
         if (error)
             *error = "cannot read the cover image " + path + ": " + std::strerror(errno);
         return false;

@@ -67,6 +67,7 @@ int runDxd(RunContext& ctx)
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
     bool stopped = false;
+    std::vector<std::uint64_t> nonFinite(ch, 0);
     for (;;) {
         if (ctx.stopRequested()) {
             stopped = true;
@@ -83,7 +84,7 @@ int runDxd(RunContext& ctx)
         const auto n = static_cast<std::size_t>(got);
         pool.run(in.channels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
-            takeChannel(block, ch, source[c], n, planar[c]);
+            nonFinite[c] += takeChannel(block, ch, source[c], n, planar[c]);
             levels[c].add(planar[c].data(), n, 1);
             resamplers[c].process(planar[c].data(), n, sink.channel(c));
         });
@@ -119,6 +120,7 @@ int runDxd(RunContext& ctx)
     ctx.log.line("resampled %.3f s in %.3f s; %lld sample(s) clipped", seconds, elapsed, writer.clippedSamples());
     if (writer.clippedSamples() > 0)
         report(ctx, "warning: %lld sample(s) exceeded full scale and were clipped", writer.clippedSamples());
+    reportSignalRepairs(ctx, nonFinite, {});
     printLevelReport(o, levels);
     if (stopped)
         return reportStopped(ctx);

@@ -97,6 +97,12 @@ int runForward(RunContext& ctx)
                        io::maxChannels(container), outs);
             return kExitUsage;
         }
+        if (container == io::DsdContainer::Dsf
+            && io::dsfChannelType(writtenLayout(in.layout, io::containerOrder(in.layout))) == 0) {
+            report(ctx, "a DSF file has no channel type for the channels of %s (%s): use a .dff output",
+                   input.c_str(), io::layoutText(in.layout).c_str());
+            return kExitUsage;
+        }
         return 0;
     });
     if (refused)
@@ -165,11 +171,21 @@ int runForward(RunContext& ctx)
         report(ctx, "%s", error.c_str());
         return kExitFailure;
     }
+    // Channels go out in the container's order and carry the input's
+    // speaker positions (its channel mask) as the container's labels.
+    const std::vector<std::size_t> order = io::containerOrder(in.layout);
     auto writer = io::makeDsdWriter(container);
     const int dstLevel = o.dst ? o.dstLevel : 0;
     if (dstLevel > 0)
         ctx.log.line("DST compression level %d", dstLevel);
-    if (!writer->open(o.output, {chain.outChannels(), dsdRate, dstLevel}, tags, &error)) {
+    io::DsdFormat format;
+    format.channels = chain.outChannels();
+    format.sampleRate = dsdRate;
+    format.dstLevel = dstLevel;
+    // The input's speaker labels only hold while the channels are the input's.
+    if (chain.outChannels() == in.channels)
+        format.layout = writtenLayout(in.layout, order);
+    if (!writer->open(o.output, format, tags, &error)) {
         report(ctx, "%s", error.c_str());
         return kExitFailure;
     }
@@ -180,7 +196,7 @@ int runForward(RunContext& ctx)
     encoders.reserve(static_cast<std::size_t>(outChannels));
     for (int c = 0; c < outChannels; ++c)
         encoders.emplace_back(design);
-    const std::vector<std::size_t> source = channelSources(channels, o.swapChannels);
+    const std::vector<std::size_t> source = channelSources(order, o.swapChannels);
 
     ChannelPool pool(ChannelPool::threadsFor(std::max(in.channels, outChannels)));
     const std::size_t frames = blockFrames(in.sampleRate, dsdRate);
@@ -188,6 +204,7 @@ int runForward(RunContext& ctx)
     std::vector<std::vector<double>> planar(channels);
     std::vector<std::vector<std::uint8_t>> bytes(static_cast<std::size_t>(outChannels));
     std::vector<ChannelLevel> levels(channels);
+    std::vector<std::uint64_t> nonFinite(channels, 0);
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
     bool stopped = false;
@@ -209,7 +226,7 @@ int runForward(RunContext& ctx)
         if (chain.empty()) {
             pool.run(in.channels, [&](int ci) {
                 const auto c = static_cast<std::size_t>(ci);
-                takeChannel(interleaved, channels, source[c], n, planar[c]);
+                nonFinite[c] += takeChannel(interleaved, channels, source[c], n, planar[c]);
                 levels[c].add(planar[c].data(), n, 1);
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), n, bytes[c]);
@@ -217,7 +234,7 @@ int runForward(RunContext& ctx)
         } else {
             planar.resize(channels);
             for (std::size_t c = 0; c < channels; ++c) {
-                takeChannel(interleaved, channels, source[c], n, planar[c]);
+                nonFinite[c] += takeChannel(interleaved, channels, source[c], n, planar[c]);
                 levels[c].add(planar[c].data(), n, 1);
             }
             const std::size_t ready = chain.run(planar, n);
@@ -277,6 +294,7 @@ int runForward(RunContext& ctx)
     if (!chain.empty() && chain.limitedSamples() > 0)
         ctx.log.line("safety limiter: %llu sample(s) turned down, by at most %.2f dB",
                      static_cast<unsigned long long>(chain.limitedSamples()), -20 * std::log10(chain.smallestLimiterGain()));
+    reportSignalRepairs(ctx, nonFinite, encoders);
     if (overloads > 0)
         report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
                static_cast<unsigned long long>(overloads));

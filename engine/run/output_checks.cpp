@@ -40,6 +40,19 @@ bool sameFile(const std::string& a, const std::string& b)
     return canonical(a) == canonical(b);
 }
 
+std::string logFileClash(const std::string& logFile, const std::vector<std::string>& inputs,
+                         const std::string& output)
+{
+    if (logFile.empty())
+        return {};
+    for (const auto& in : inputs)
+        if (!in.empty() && sameFile(logFile, in))
+            return in;
+    if (!output.empty() && sameFile(logFile, output))
+        return output;
+    return {};
+}
+
 bool outputFolderExists(const std::string& output, std::string* error)
 {
     const std::string folder = folderOf(output);

@@ -241,7 +241,7 @@ void DstFilesTest::storedFramesReadBack()
     const QString path = dir_.filePath("stored.dff");
     auto w = zuvo::io::makeDsdWriter(zuvo::io::DsdContainer::Dff);
     std::string error;
-    QVERIFY(w->open(path.toStdString(), {2, rate, 1}, {}, &error));
+    QVERIFY(w->open(path.toStdString(), {2, rate, {}, 1}, {}, &error));
     QVERIFY(w->write(in, &error));
     QVERIFY(w->finalize(&error));
     QCOMPARE(w->bytesPerChannel(), std::uint64_t{bytes});

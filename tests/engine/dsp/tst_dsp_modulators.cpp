@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 using namespace zuvo::dsp;
 using zuvo_test::analyseTone;
 using zuvo_test::sine;
@@ -163,6 +165,36 @@ private slots:
             mean += __builtin_popcount(b);
         mean = mean / (tail.size() * 8.0);
         QVERIFY2(std::abs(mean - 0.5) < 0.01, qPrintable(QString("bit density %1").arg(mean)));
+    }
+
+    void nonFiniteStateIsReset_data() { hotInputRecoversWithoutBurst_data(); }
+    void nonFiniteStateIsReset()
+    {
+        // A NaN that reaches the modulator (past the input's own repair)
+        // poisons its state; comparisons with NaN are false, so no clip
+        // test fires and the output would stay one value for good.
+        QFETCH(int, type);
+        QFETCH(int, order);
+        std::string err;
+        auto d = designForward(config(ModulatorType(type), order), &err);
+        QVERIFY2(d, err.c_str());
+        std::vector<double> in = sine(997, 44100, 0.3, 44100 * 4 / 10);
+        in[4410] = std::numeric_limits<double>::quiet_NaN();
+        in[8820] = std::numeric_limits<double>::infinity();
+        const auto e = encode(d, in);
+        QVERIFY2(e.stats.nonFiniteResets >= 1, "the dead state must be detected");
+        QCOMPARE(e.stats.resets >= e.stats.nonFiniteResets, true);
+        // The last quarter (from 0.1 s after the infinity) is a clean tone
+        // with no DC: the loop came back.
+        const auto tail = std::vector<std::uint8_t>(e.bytes.end() - std::ptrdiff_t(e.bytes.size() / 4), e.bytes.end());
+        double mean = 0;
+        for (auto b : tail)
+            mean += __builtin_popcount(b);
+        mean = mean / (tail.size() * 8.0);
+        QVERIFY2(std::abs(mean - 0.5) < 0.01, qPrintable(QString("bit density %1 (resets %2, of which non-finite %3)")
+                                                          .arg(mean).arg(e.stats.resets).arg(e.stats.nonFiniteResets)));
+        const auto r = analyseTone(unpackMsbFirst(tail), dsdRateHz(*d), 997);
+        QVERIFY2(r.snrDb > 90, qPrintable(QString("SNR %1 dB after the NaN").arg(r.snrDb)));
     }
 
     void mashIsRefusedWithAReason()

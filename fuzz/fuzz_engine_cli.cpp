@@ -1,0 +1,32 @@
+// Feeds the engine's command-line parser: the input is split at NUL bytes
+// into arguments, as argv would hold them.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "cli/options.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    std::vector<std::string> args;
+    std::string current;
+    for (std::size_t i = 0; i < size; ++i) {
+        if (data[i] == 0) {
+            args.push_back(current);
+            current.clear();
+        } else {
+            current.push_back(static_cast<char>(data[i]));
+        }
+    }
+    if (!current.empty())
+        args.push_back(current);
+    if (args.size() > 256)
+        return 0;
+    const zuvo::cli::ParsedCommandLine parsed = zuvo::cli::parseCommandLine(args);
+    // A parse always ends in a decision: an accepted command line names an
+    // input and an output.
+    if (!parsed.usageError() && !parsed.options.showHelp && !parsed.options.showVersion
+        && !parsed.options.listDevices && (parsed.options.inputs.empty() || parsed.options.output.empty()))
+        __builtin_trap();
+    return 0;
+}

@@ -10,10 +10,11 @@
 
 #include "dsp/dsd_pipeline.h"
 #include "io/tags.h"
+#include "record/record_options.h"
 
 namespace zuvo::cli {
 
-enum class Mode { Forward, Reverse, Dxd };
+enum class Mode { Forward, Reverse, Dxd, Record };
 
 struct EngineOptions {
     Mode mode = Mode::Forward;
@@ -53,6 +54,9 @@ struct EngineOptions {
     bool floatOut = false;   // --float
     double lowpassHz = 0;    // --lowpass
     int dxdRate = 352800;    // --dxd-samplerate
+
+    // Capture from an audio device (--record); the design options above apply.
+    record::RecordOptions record;
 };
 
 struct ParsedCommandLine {

@@ -34,7 +34,9 @@ std::size_t blockFrames(int inputRate, int dsdRate)
     return std::clamp<std::size_t>(frames, 1024, 16384);
 }
 
-dsp::ForwardConfig makeConfig(const cli::EngineOptions& o, int inputRate)
+} // namespace
+
+dsp::ForwardConfig forwardConfig(const cli::EngineOptions& o, int inputRate)
 {
     dsp::ForwardConfig c;
     c.inputRate = inputRate;
@@ -56,8 +58,6 @@ const char* modulatorName(dsp::ModulatorType t)
     }
     return "?";
 }
-
-} // namespace
 
 int runForward(RunContext& ctx)
 {
@@ -100,7 +100,7 @@ int runForward(RunContext& ctx)
                  tags.artist.c_str(), tags.title.c_str(), tags.album.c_str(), tags.genre.c_str(), tags.year.c_str(),
                  tags.track, tags.comment.c_str());
 
-    const dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
+    const dsp::ForwardConfig config = forwardConfig(o, in.sampleRate);
     auto design = dsp::designForward(config, &error);
     if (!design) {
         report(ctx, "design refused: %s", error.c_str());

@@ -56,7 +56,8 @@ int main(int argc, char** argv)
     if (!shotPath.isEmpty())
         saveWindowScreenshot(window.get(), shotPath);
 
-    window->runPlaytestHook(); // start-up test hooks: at most one of the chain runs
+    if (!window->runPlaytestHook()) // start-up test hooks: at most one of the chain runs
+        window->runRectestHook();
 
     const int code = QApplication::exec();
     window.reset();

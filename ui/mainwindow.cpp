@@ -16,6 +16,7 @@
 #include "io_panel.h"
 #include "log_pane.h"
 #include "playback_controller.h"
+#include "recording_controller.h"
 #include "run_controls.h"
 
 MainWindow::MainWindow(QWidget* parent)
@@ -40,6 +41,7 @@ MainWindow::~MainWindow()
     setArgNoteSink(nullptr);
     queue_->shutDown();
     shutDownPlayback();
+    shutDownRecording();
     // The queue (and with it the conversion session) goes last, with the window's children.
 }
 
@@ -52,6 +54,7 @@ void MainWindow::buildUi()
     layout->addWidget(io_, 0);
     layout->addWidget(run_, 1);
     layout->addWidget(createPlayPage(central), 0); // PLAY PAGE: belongs in the main tab widget at index 5
+    layout->addWidget(createRecordPage(central), 0); // RECORD PAGE: belongs in the main tab widget at index 7
     setCentralWidget(central);
     statusBar();
 
@@ -130,4 +133,5 @@ void MainWindow::onPollTimer()
     // GUI thread picks their news up.
     queue_->poll();
     playback_->poll();
+    recording_->poll();
 }

@@ -9,6 +9,9 @@ class ConversionQueue;
 class InputOutputPanel;
 class PlaybackController;
 class PlayPage;
+class RecordingController;
+class RecordingProbe;
+class RecordPage;
 class QTemporaryDir;
 class QTimer;
 class RunControlsPanel;
@@ -40,10 +43,21 @@ public:
     // ZUVO_AI_PLAYTEST: true when this start-up hook was the one to run.
     bool runPlaytestHook();
 
+    // Recording (mainwindow_recording.cpp).
+    void startRecording();
+    void stopRecording();
+    void runRecordingProbe();
+    // The Recording page became the current page: probes once when no verdict exists.
+    void recordPageShown();
+    // ZUVO_AI_RECTEST: true when this start-up hook was the one to run.
+    bool runRectestHook();
+
 private:
     void buildUi();
     QWidget* createPlayPage(QWidget* parent);
     void shutDownPlayback();
+    QWidget* createRecordPage(QWidget* parent);
+    void shutDownRecording();
     void locateEngine();
     void onPollTimer();
     ConversionSettings collectSettings();
@@ -58,6 +72,9 @@ private:
     QTimer* pollTimer_ = nullptr;
     PlayPage* playPage_ = nullptr;
     PlaybackController* playback_ = nullptr;
+    RecordPage* recordPage_ = nullptr;
+    RecordingController* recording_ = nullptr;
+    RecordingProbe* recordingProbe_ = nullptr;
     ConversionSettings settings_;
     QString enginePath_;
     QString engineLogPath_;

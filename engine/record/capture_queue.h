@@ -5,6 +5,7 @@
 // counted there, so a slow machine shows up in the log rather than in memory.
 
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <mutex>
 #include <vector>
@@ -13,10 +14,10 @@ namespace zuvo::record {
 
 class CaptureQueue {
 public:
-    explicit CaptureQueue(std::size_t maxSamples) : max_(maxSamples) {}
+    explicit CaptureQueue(std::size_t maxBytes) : max_(maxBytes) {}
 
     // False when the queue was closed (the consumer gave up).
-    bool push(std::vector<double> block)
+    bool push(std::vector<std::uint8_t> block)
     {
         std::unique_lock<std::mutex> lock(m_);
         room_.wait(lock, [&] { return closed_ || held_ < max_; });
@@ -29,7 +30,7 @@ public:
     }
 
     // Waits for a block; false once closed and empty.
-    bool pop(std::vector<double>& block)
+    bool pop(std::vector<std::uint8_t>& block)
     {
         std::unique_lock<std::mutex> lock(m_);
         ready_.wait(lock, [&] { return closed_ || !blocks_.empty(); });
@@ -53,7 +54,7 @@ public:
 private:
     std::mutex m_;
     std::condition_variable ready_, room_;
-    std::deque<std::vector<double>> blocks_;
+    std::deque<std::vector<std::uint8_t>> blocks_;
     std::size_t held_ = 0;
     std::size_t max_;
     bool closed_ = false;

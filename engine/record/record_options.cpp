@@ -121,11 +121,11 @@ void validateRecordOptions(const RecordOptions& o, bool pdfReport, const std::st
     }
     if (otherMode)
         errors.push_back("--record excludes --reverse, --dxd and input files (-i)");
-    if (o.dsd)
-        errors.push_back("--record-dsd: direct DSD capture (DoP or native) is not available in this engine; "
-                         "record PCM with --record, which modulates to DSD as it records");
-    else if (!o.dsdMode.empty())
+    if (!o.dsd && !o.dsdMode.empty())
         errors.push_back("--dsd-mode applies to --record-dsd only");
+    if (o.dsd && o.sampleRate > 0)
+        errors.push_back("--record-samplerate applies to PCM recording (--record); --record-dsd takes its rate "
+                         "from --oversampling (DSD64 by default)");
     if (pdfReport)
         errors.push_back("-pdfrp: this engine makes no PDF report for recordings; leave it out");
     if (output.empty())

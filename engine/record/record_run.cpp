@@ -12,11 +12,12 @@
 #include "io/dsd_writer.h"
 #include "record/capture_format.h"
 #include "record/capture_queue.h"
+#include "record/capture_session.h"
+#include "record/dsd_record.h"
 #include "run/channel_pool.h"
 #include "run/exit_codes.h"
 #include "run/forward_run.h"
 #include "run/levels.h"
-#include "run/output_checks.h"
 #include "run/pcm_input.h"
 
 namespace zuvo::record {
@@ -25,60 +26,6 @@ using alsa::AlsaDevice;
 using run::report;
 
 namespace {
-
-const char* formatName(snd_pcm_format_t f)
-{
-    const char* n = snd_pcm_format_name(f);
-    return n ? n : "?";
-}
-
-struct CaptureResult {
-    unsigned long long frames = 0;
-    std::string error;              // device failure that ended the capture
-    std::string monitorProblem;     // monitoring given up (the recording went on)
-};
-
-// The device thread's whole job.
-void capture(AlsaDevice& device, AlsaDevice* monitor, const CaptureFormat& fmt, unsigned long long limit,
-             const std::function<bool()>& stop, CaptureQueue& queue, CaptureResult& result)
-{
-    const std::size_t period = device.periodFrames();
-    std::vector<std::uint8_t> raw(period * device.frameBytes());
-    while (!stop()) {
-        std::size_t want = period;
-        if (limit > 0) {
-            if (result.frames >= limit)
-                break;
-            want = static_cast<std::size_t>(std::min<unsigned long long>(period, limit - result.frames));
-        }
-        const long long got = device.read(raw.data(), want, stop, &result.error);
-        if (got <= 0)
-            break;
-        const auto n = static_cast<std::size_t>(got);
-        if (monitor) {
-            std::string error;
-            if (monitor->write(raw.data(), n, stop, &error) < 0) {
-                result.monitorProblem = error;
-                monitor = nullptr;
-            }
-        }
-        std::vector<double> block;
-        block.reserve(n * fmt.channels);
-        toDoubles(fmt.format, raw.data(), n * fmt.channels, block);
-        if (!queue.push(std::move(block)))
-            break;
-        result.frames += n;
-    }
-    queue.close();
-}
-
-bool openMonitor(AlsaDevice& monitor, const RecordOptions& r, const CaptureFormat& f, std::size_t period,
-                 std::string* error)
-{
-    const std::string name = r.monitorDevice.empty() ? "default" : r.monitorDevice;
-    return monitor.open(name, error, AlsaDevice::Direction::Playback, false)
-        && monitor.configure(f.format, f.rate, f.channels, error, period);
-}
 
 void printSection(const char* title, const std::vector<std::string>& devices, bool numbered)
 {
@@ -108,32 +55,18 @@ int listDevices()
 
 int runRecord(run::RunContext& ctx)
 {
+    if (ctx.options.record.dsd)
+        return runDsdRecord(ctx);
     const cli::EngineOptions& o = ctx.options;
     const RecordOptions& r = o.record;
     std::string error;
-    if (!run::outputFolderExists(o.output, &error)) {
-        report(ctx, "%s", error.c_str());
-        return kExitFailure;
-    }
-    AlsaDevice device;
-    if (!device.open(r.device, &error, AlsaDevice::Direction::Capture, r.exclusive)) {
-        report(ctx, "%s", error.c_str());
-        return kExitFailure;
-    }
-    CaptureFormat fmt;
-    const auto accepts = [&device](snd_pcm_format_t f, unsigned rate, unsigned ch) { return device.accepts(f, rate, ch); };
-    if (!chooseCaptureFormat(accepts, r.sampleRate, r.channels, fmt, &error)) {
-        report(ctx, "capture device \"%s\"%s: %s", r.device.c_str(), r.exclusive ? " (exclusive)" : "", error.c_str());
-        return kExitFailure;
-    }
-    if (fmt.channels > static_cast<unsigned>(io::maxChannels(io::DsdContainer::Dsf))) {
-        report(ctx, "a DSF file holds at most %d channels", io::maxChannels(io::DsdContainer::Dsf));
-        return kExitUsage;
-    }
-    if (!device.configure(fmt.format, fmt.rate, fmt.channels, &error, static_cast<std::size_t>(r.bufferFrames))) {
-        report(ctx, "capture device \"%s\": %s", r.device.c_str(), error.c_str());
-        return kExitFailure;
-    }
+    Capture cap;
+    const int refused = openCapture(ctx, [&r](const AcceptsFn& accepts, CaptureFormat& out, std::string* e) {
+        return chooseCaptureFormat(accepts, r.sampleRate, r.channels, out, e);
+    }, cap);
+    if (refused)
+        return refused;
+    const CaptureFormat& fmt = cap.fmt;
 
     dsp::ForwardConfig config = run::forwardConfig(o, static_cast<int>(fmt.rate));
     if (!o.gain && !std::isnan(r.headroomDb))
@@ -145,21 +78,10 @@ int runRecord(run::RunContext& ctx)
     }
     const dsp::DesignSummary& summary = dsp::summary(*design);
     const int dsdRate = dsp::dsdRateHz(*design);
-    ctx.log.line("record: device \"%s\"%s, %s, %u Hz, %u channel(s), period %zu frames; DSD%d (%d Hz), modulator %s",
-                 r.device.c_str(), r.exclusive ? " (exclusive)" : "", formatName(fmt.format), fmt.rate, fmt.channels,
-                 device.periodFrames(), o.oversampling, dsdRate, run::modulatorName(o.modulator.type));
+    ctx.log.line("record: DSD%d (%d Hz), modulator %s", o.oversampling, dsdRate, run::modulatorName(o.modulator.type));
     ctx.log.text(summary.text);
     ctx.log.line("applied gain %.6f (%.2f dB), input clean up to %.2f dBFS", summary.appliedGain,
                  20 * std::log10(summary.appliedGain), summary.maxStableInputDbfs);
-
-    AlsaDevice monitorDevice;
-    AlsaDevice* monitor = nullptr;
-    if (r.monitor) {
-        if (openMonitor(monitorDevice, r, fmt, device.periodFrames(), &error))
-            monitor = &monitorDevice;
-        else
-            report(ctx, "warning: monitoring is off: %s; the recording goes on", error.c_str());
-    }
 
     auto writer = io::makeDsdWriter(io::DsdContainer::Dsf);
     if (!writer->open(o.output, {static_cast<int>(fmt.channels), dsdRate}, o.tags, &error)) {
@@ -182,14 +104,15 @@ int runRecord(run::RunContext& ctx)
     const unsigned long long limit =
         r.durationSeconds > 0 ? static_cast<unsigned long long>(std::llround(r.durationSeconds * fmt.rate)) : 0;
     // Four seconds of slack between the device and the modulator.
-    CaptureQueue queue(static_cast<std::size_t>(fmt.rate) * channels * 4);
+    CaptureQueue queue(static_cast<std::size_t>(fmt.rate) * cap.device.frameBytes() * 4);
     CaptureResult captured;
-    std::thread deviceThread(capture, std::ref(device), monitor, std::cref(fmt), limit, std::cref(stop),
-                             std::ref(queue), std::ref(captured));
+    std::thread deviceThread(captureLoop, std::ref(cap), limit, std::cref(stop), std::ref(queue), std::ref(captured));
 
     // Blocks of a few thousand frames keep the pool's per-call cost small.
-    const std::size_t blockSamples = std::max<std::size_t>(4096, device.periodFrames()) * channels;
-    std::vector<double> pending, block;
+    const std::size_t blockSamples = std::max<std::size_t>(4096, cap.device.periodFrames()) * channels;
+    const std::size_t bytesPerSample = sampleBytes(fmt.format);
+    std::vector<double> pending;
+    std::vector<std::uint8_t> block;
     std::vector<std::vector<double>> planar(channels);
     std::vector<std::vector<std::uint8_t>> bytes(channels);
     std::vector<run::ChannelLevel> levels(channels);
@@ -212,19 +135,17 @@ int runRecord(run::RunContext& ctx)
     while (more) {
         more = queue.pop(block);
         if (more)
-            pending.insert(pending.end(), block.begin(), block.end());
-        if (pending.size() >= blockSamples || !more) {
-            if (!encode(!more)) {
-                abort = true;
-                queue.close();
-                break;
-            }
+            toDoubles(fmt.format, block.data(), block.size() / bytesPerSample, pending);
+        if ((pending.size() >= blockSamples || !more) && !encode(!more)) {
+            abort = true;
+            queue.close();
+            break;
         }
         if (limit > 0)
             ctx.progress.update(100.0 * static_cast<double>(captured.frames) / static_cast<double>(limit), 1.0);
     }
     deviceThread.join();
-    device.drop();
+    cap.device.drop();
     if (!writeError.empty() || !writer->finalize(&writeError)) {
         writer->discard();
         report(ctx, "%s", writeError.c_str());
@@ -233,13 +154,9 @@ int runRecord(run::RunContext& ctx)
     ctx.progress.finish(captured.error.empty());
 
     const double seconds = static_cast<double>(captured.frames) / fmt.rate;
-    ctx.log.line("recorded %.3f s (%llu frames), %llu DSD bytes per channel, %llu overrun(s)", seconds,
-                 captured.frames, static_cast<unsigned long long>(writer->bytesPerChannel()), device.overruns());
-    if (device.overruns() > 0)
-        report(ctx, "warning: %llu capture overrun(s) recovered; the recording has a gap at each",
-               device.overruns());
-    if (!captured.monitorProblem.empty())
-        report(ctx, "warning: monitoring stopped: %s", captured.monitorProblem.c_str());
+    ctx.log.line("recorded %.3f s, %llu DSD bytes per channel", seconds,
+                 static_cast<unsigned long long>(writer->bytesPerChannel()));
+    reportCapture(ctx, cap, captured);
     std::uint64_t overloads = 0;
     for (std::size_t c = 0; c < channels; ++c) {
         overloads += encoders[c].stats().overloads;

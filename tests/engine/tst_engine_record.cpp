@@ -42,6 +42,10 @@ private slots:
     void recordingCarriesToneLevelAndLength();
     void qEndsTheRecordingWithAValidFile();
     void monitorPlaysWhatIsRecorded();
+    void dopCaptureStoresTheBits();
+    void brokenDopMarkersAreReported();
+    void pcmIsNotTakenForDop();
+    void nativeDsdCaptureStoresTheBits();
     void refusedBeforeAnyOutput_data();
     void refusedBeforeAnyOutput();
     void missingDeviceIsAFailureWithoutOutput();
@@ -53,6 +57,7 @@ private:
     Recording record(const QStringList& args, int stopAfterMs = -1);
     QTemporaryDir dir_;
     QString conf_;
+    std::vector<QByteArray> dopBits_;
 };
 
 QString EngineRecordTest::feed(const QString& name, int rate, int channels, double seconds, double freq,
@@ -74,6 +79,36 @@ void EngineRecordTest::initTestCase()
     QVERIFY(!feed("tone44", 44100, 2, 4, 1000, 0.5).isEmpty());
     QVERIFY(!feed("tone48", 48000, 1, 4, 440, 0.25).isEmpty());
     QVERIFY(!feed("short", 44100, 2, 0.5, 1000, 0.5).isEmpty());
+    // A DSD64 reference made by the engine, packed here as DoP words
+    // (S32_LE: empty low byte, later DSD byte, earlier DSD byte, marker).
+    const QString ref = path("dopref.dsf");
+    QCOMPARE(runEngine({"-i", path("tone44.wav"), ref}).exitCode, 0);
+    int rate = 0;
+    QVERIFY(playertest::readDsdBits(ref, rate, dopBits_));
+    QByteArray dop;
+    for (qsizetype f = 0; 2 * f + 1 < dopBits_[0].size(); ++f)
+        for (int c = 0; c < 2; ++c) {
+            const QByteArray& b = dopBits_[std::size_t(c)];
+            dop.append('\0').append(b[2 * f + 1]).append(b[2 * f]).append(char(f % 2 ? 0xFA : 0x05));
+        }
+    // Native DSD_U32_BE: four DSD bytes per channel and frame, earliest first.
+    QByteArray native;
+    for (qsizetype f = 0; 4 * f + 3 < dopBits_[0].size(); ++f)
+        for (int c = 0; c < 2; ++c)
+            native.append(dopBits_[std::size_t(c)].mid(4 * f, 4));
+    QFile nf(path("native.raw"));
+    QVERIFY(nf.open(QIODevice::WriteOnly));
+    nf.write(native);
+    nf.close();
+    QByteArray broken = dop;
+    for (qsizetype f = 1000; f < 1010; ++f)
+        broken[f * 8 + 3] = 0x00;             // markers gone in both channels
+    broken[2000 * 8 + 4 + 3] = char(0xFA);    // channel 2 out of step with channel 1
+    for (const auto& [name, data] : {std::pair{QString("dop.raw"), dop}, std::pair{QString("brokendop.raw"), broken}}) {
+        QFile f(path(name));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(data);
+    }
     // Capture from `null` never waits for a clock, so the tests run faster
     // than real time; only the sample count sets a recording's length.
     const QString text = QStringLiteral(R"(
@@ -81,6 +116,9 @@ pcm.tone44 { type file slave.pcm { type null } infile "%1/tone44.raw" file "/dev
              hint { show on description "Zuvo test tone" } }
 pcm.tone48 { type file slave.pcm { type null } infile "%1/tone48.raw" file "/dev/null" format "raw" }
 pcm.short { type file slave.pcm { type null } infile "%1/short.raw" file "/dev/null" format "raw" }
+pcm.dop { type file slave.pcm { type null } infile "%1/dop.raw" file "/dev/null" format "raw" }
+pcm.native { type file slave.pcm { type null } infile "%1/native.raw" file "/dev/null" format "raw" }
+pcm.brokendop { type file slave.pcm { type null } infile "%1/brokendop.raw" file "/dev/null" format "raw" }
 pcm.monitor { type file slave.pcm { type null } file "%1/monitor.raw" format "raw" }
 )").arg(dir_.path());
     conf_ = path("asound.conf");
@@ -229,12 +267,76 @@ void EngineRecordTest::monitorPlaysWhatIsRecorded()
     QVERIFY(heard == src.read(heard.size()));
 }
 
+void EngineRecordTest::dopCaptureStoresTheBits()
+{
+    const QString out = path("dop.dsf");
+    // The page sends its headroom along; direct DSD leaves the bits alone.
+    const Recording r = record({"--record-dsd", "--dsd-mode", "dop", "--record-device", "dop", "--record-duration", "2",
+                                "--record-headroom", "3.0", out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY2(r.out.contains("S32_LE, 176400 Hz, 2 ch -> DSD64"), qPrintable(r.out));
+    QVERIFY(!r.err.contains("broken"));
+    int rate = 0;
+    std::vector<QByteArray> bits;
+    QVERIFY(playertest::readDsdBits(out, rate, bits));
+    QCOMPARE(rate, 2822400);
+    QCOMPARE(bits[0].size(), qsizetype(2 * 2822400 / 8));
+    for (int c = 0; c < 2; ++c)
+        QVERIFY(bits[std::size_t(c)] == dopBits_[std::size_t(c)].left(bits[0].size()));
+}
+
+void EngineRecordTest::brokenDopMarkersAreReported()
+{
+    const QString out = path("brokendop.dsf");
+    const Recording r = record({"--record-dsd", "--record-device", "brokendop", "--record-duration", "1", out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY2(r.err.contains("DoP markers broken in 11 of 176400 frame(s), first at 0.006 s"), qPrintable(r.err));
+    int rate = 0;
+    std::vector<QByteArray> bits;
+    QVERIFY(playertest::readDsdBits(out, rate, bits));
+    for (int c = 0; c < 2; ++c) {
+        const QByteArray& got = bits[std::size_t(c)];
+        const QByteArray& want = dopBits_[std::size_t(c)];
+        QVERIFY(got.mid(2000, 20) == QByteArray(20, char(0x69)));   // frames 1000-1009: DSD silence
+        QVERIFY(got.mid(4000, 2) == QByteArray(2, char(0x69)));     // frame 2000
+        QVERIFY(got.left(2000) == want.left(2000));
+        QVERIFY(got.mid(2020, 1980) == want.mid(2020, 1980));
+        QVERIFY(got.mid(4002, 10000) == want.mid(4002, 10000));
+    }
+}
+
+void EngineRecordTest::pcmIsNotTakenForDop()
+{
+    const QString out = path("notdop.dsf");
+    const Recording r = record({"--record-dsd", "--record-device", "tone44", "--record-duration", "1", out});
+    QCOMPARE(r.exitCode, 1);
+    QVERIFY2(r.err.contains("not delivering DoP"), qPrintable(r.err));
+    int rate = 0;
+    std::vector<QByteArray> bits;
+    QVERIFY(playertest::readDsdBits(out, rate, bits)); // still a complete file
+}
+
+void EngineRecordTest::nativeDsdCaptureStoresTheBits()
+{
+    const QString out = path("native.dsf");
+    const Recording r = record({"--record-dsd", "--dsd-mode", "native", "--record-device", "native",
+                                "--record-duration", "2", out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY2(r.out.contains("DSD_U32_BE, 88200 Hz, 2 ch -> DSD64"), qPrintable(r.out));
+    int rate = 0;
+    std::vector<QByteArray> bits;
+    QVERIFY(playertest::readDsdBits(out, rate, bits));
+    QCOMPARE(bits[0].size(), qsizetype(2 * 2822400 / 8));
+    for (int c = 0; c < 2; ++c)
+        QVERIFY(bits[std::size_t(c)] == dopBits_[std::size_t(c)].left(bits[0].size()));
+}
+
 void EngineRecordTest::refusedBeforeAnyOutput_data()
 {
     QTest::addColumn<QStringList>("args");
     QTest::addColumn<QString>("message");
-    QTest::newRow("direct DSD, DoP") << QStringList{"--record-dsd", "--dsd-mode", "dop"} << "--record-dsd";
-    QTest::newRow("direct DSD, native") << QStringList{"--record-dsd", "--dsd-mode", "native"} << "--record-dsd";
+    QTest::newRow("DSD mode unknown") << QStringList{"--record-dsd", "--dsd-mode", "raw"} << "--dsd-mode";
+    QTest::newRow("DSD with a PCM rate") << QStringList{"--record-dsd", "--record-samplerate", "96000"} << "--record-samplerate";
     QTest::newRow("PDF report") << QStringList{"--record", "-pdfrp"} << "-pdfrp";
     QTest::newRow("nine channels") << QStringList{"--record", "--record-channels", "9"} << "--record-channels";
     QTest::newRow("22.05 kHz") << QStringList{"--record", "--record-samplerate", "22050"} << "--record-samplerate";

@@ -55,6 +55,7 @@ void MainWindow::buildUi()
     layout->addWidget(run_, 1);
     layout->addWidget(createPlayPage(central), 0); // PLAY PAGE: belongs in the main tab widget at index 5
     layout->addWidget(createRecordPage(central), 0); // RECORD PAGE: belongs in the main tab widget at index 7
+    layout->addWidget(createDiagnosticsButtons(central), 0); // DIAGNOSTICS ROW: belongs in the bottom button row
     setCentralWidget(central);
     statusBar();
 

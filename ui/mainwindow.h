@@ -6,6 +6,7 @@
 #include "conversion_settings.h"
 
 class ConversionQueue;
+class DiagnosticsDialog;
 class InputOutputPanel;
 class PlaybackController;
 class PlayPage;
@@ -52,12 +53,16 @@ public:
     // ZUVO_AI_RECTEST: true when this start-up hook was the one to run.
     bool runRectestHook();
 
+    // About / Diagnostics (mainwindow_diagnostics.cpp); the dialog deletes itself.
+    DiagnosticsDialog* openDiagnostics();
+
 private:
     void buildUi();
     QWidget* createPlayPage(QWidget* parent);
     void shutDownPlayback();
     QWidget* createRecordPage(QWidget* parent);
     void shutDownRecording();
+    QWidget* createDiagnosticsButtons(QWidget* parent);
     void locateEngine();
     void onPollTimer();
     ConversionSettings collectSettings();

@@ -1,7 +1,9 @@
 #include "mainwindow.h"
 
 #include <QFileInfo>
+#include <QHBoxLayout>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -54,8 +56,9 @@ void MainWindow::buildUi()
     layout->addWidget(io_, 0);
     layout->addWidget(run_, 1);
     layout->addWidget(createPlayPage(central), 0); // PLAY PAGE: belongs in the main tab widget at index 5
-    layout->addWidget(createRecordPage(central), 0); // RECORD PAGE: belongs in the main tab widget at index 7
-    layout->addWidget(createDiagnosticsButtons(central), 0); // DIAGNOSTICS ROW: belongs in the bottom button row
+    // RECORD PAGE (scrolled only until it moves to the main tab widget at index 7) and DIAGNOSTICS ROW (belongs
+    // in the bottom button row): both placed here until the rebuilt window takes them.
+    layout->addWidget(temporaryPlacement(createRecordPage(central), createDiagnosticsButtons(central)), 0);
     setCentralWidget(central);
     statusBar();
 
@@ -92,6 +95,20 @@ void MainWindow::buildUi()
         io_->fileList()->clearAll();
         io_->updateCount();
     });
+}
+
+QWidget* MainWindow::temporaryPlacement(QWidget* recordPage, QWidget* diagnosticsRow)
+{
+    auto* box = new QWidget(recordPage->parentWidget());
+    auto* v = new QHBoxLayout(box);
+    v->setContentsMargins(0, 0, 0, 0);
+    auto* scroll = new QScrollArea(box);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(recordPage);
+    scroll->setMaximumHeight(120);
+    v->addWidget(scroll, 1);
+    v->addWidget(diagnosticsRow, 0, Qt::AlignTop);
+    return box;
 }
 
 void MainWindow::locateEngine()

@@ -63,6 +63,7 @@ private:
     QWidget* createRecordPage(QWidget* parent);
     void shutDownRecording();
     QWidget* createDiagnosticsButtons(QWidget* parent);
+    QWidget* temporaryPlacement(QWidget* recordPage, QWidget* diagnosticsRow);
     void locateEngine();
     void onPollTimer();
     ConversionSettings collectSettings();

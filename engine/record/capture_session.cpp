@@ -72,7 +72,7 @@ void captureLoop(Capture& cap, unsigned long long limit, const std::function<boo
         if (limit > 0) {
             if (result.frames >= limit)
                 break;
-            want = static_cast<std::size_t>(std::min<unsigned long long>(period, limit - result.frames));
+            want = static_cast<std::size_t>(std::min<unsigned long long>(period, limit - result.frames.load()));
         }
         std::vector<std::uint8_t> raw(want * frameBytes);
         const long long got = device.read(raw.data(), want, stop, &result.error);
@@ -96,12 +96,29 @@ void captureLoop(Capture& cap, unsigned long long limit, const std::function<boo
 
 void reportCapture(run::RunContext& ctx, const Capture& cap, const CaptureResult& result)
 {
-    ctx.log.line("captured %llu frames, %llu overrun(s)", result.frames, cap.device.overruns());
+    ctx.log.line("captured %llu frames, %llu overrun(s)", result.frames.load(), cap.device.overruns());
     if (cap.device.overruns() > 0)
         report(ctx, "warning: %llu capture overrun(s) recovered; the recording has a gap at each",
                cap.device.overruns());
     if (!result.monitorProblem.empty())
         report(ctx, "warning: monitoring stopped: %s", result.monitorProblem.c_str());
+}
+
+void RecordingProgress::update(unsigned long long frames)
+{
+    if (ctx_.options.gui && limit_ > 0)
+        ctx_.progress.update(100.0 * static_cast<double>(frames) / static_cast<double>(limit_), 1.0);
+    if (rate_ > 0 && frames / rate_ >= nextNote_) {
+        std::printf("[REC] %llu s recorded\n", nextNote_);
+        std::fflush(stdout);
+        nextNote_ += 10;
+    }
+}
+
+void RecordingProgress::finish(bool completed)
+{
+    if (ctx_.options.gui)
+        ctx_.progress.finish(completed);
 }
 
 } // namespace zuvo::record

@@ -3,6 +3,7 @@
 // and configure the capture device (and the monitor), then a thread that
 // reads periods, plays them to the monitor and queues the raw frames.
 
+#include <atomic>
 #include <functional>
 #include <string>
 
@@ -21,7 +22,7 @@ struct Capture {
 };
 
 struct CaptureResult {
-    unsigned long long frames = 0;
+    std::atomic<unsigned long long> frames{0}; // read by the encoding thread while the device thread counts
     std::string error;          // device failure that ended the capture
     std::string monitorProblem; // monitoring given up (the recording went on)
 };
@@ -41,5 +42,22 @@ void captureLoop(Capture& capture, unsigned long long limit, const std::function
 void reportCapture(run::RunContext& ctx, const Capture& capture, const CaptureResult& result);
 
 const char* formatName(snd_pcm_format_t format);
+
+// Where a recording stands: "[PROGRESS]" lines with --gui and a duration,
+// and a "[REC] … s" line on standard output every ten seconds of audio.
+// Nothing on standard error, which callers read as trouble.
+class RecordingProgress {
+public:
+    RecordingProgress(run::RunContext& ctx, unsigned rate, unsigned long long limit)
+        : ctx_(ctx), rate_(rate), limit_(limit) {}
+    void update(unsigned long long frames);
+    void finish(bool completed);
+
+private:
+    run::RunContext& ctx_;
+    unsigned rate_;
+    unsigned long long limit_;
+    unsigned long long nextNote_ = 10;
+};
 
 } // namespace zuvo::record

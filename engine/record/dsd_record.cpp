@@ -45,6 +45,7 @@ int runDsdRecord(run::RunContext& ctx)
         r.durationSeconds > 0 ? static_cast<unsigned long long>(std::llround(r.durationSeconds * fmt.rate)) : 0;
     CaptureQueue queue(static_cast<std::size_t>(fmt.rate) * cap.device.frameBytes() * 4);
     CaptureResult captured;
+    RecordingProgress progress(ctx, fmt.rate, limit);
     std::thread deviceThread(captureLoop, std::ref(cap), limit, std::cref(stop), std::ref(queue), std::ref(captured));
 
     DsdUnpacker unpacker(fmt.format, fmt.channels, dop);
@@ -60,8 +61,7 @@ int runDsdRecord(run::RunContext& ctx)
             queue.close();
             break;
         }
-        if (limit > 0)
-            ctx.progress.update(100.0 * static_cast<double>(captured.frames) / static_cast<double>(limit), 1.0);
+        progress.update(captured.frames);
     }
     deviceThread.join();
     cap.device.drop();
@@ -70,7 +70,7 @@ int runDsdRecord(run::RunContext& ctx)
         report(ctx, "%s", writeError.c_str());
         return kExitFailure;
     }
-    ctx.progress.finish(captured.error.empty());
+    progress.finish(captured.error.empty());
     reportCapture(ctx, cap, captured);
 
     const double seconds = static_cast<double>(writer->bytesPerChannel()) * 8 / dsdRate;

@@ -106,6 +106,7 @@ int runRecord(run::RunContext& ctx)
     // Four seconds of slack between the device and the modulator.
     CaptureQueue queue(static_cast<std::size_t>(fmt.rate) * cap.device.frameBytes() * 4);
     CaptureResult captured;
+    RecordingProgress progress(ctx, fmt.rate, limit);
     std::thread deviceThread(captureLoop, std::ref(cap), limit, std::cref(stop), std::ref(queue), std::ref(captured));
 
     // Blocks of a few thousand frames keep the pool's per-call cost small.
@@ -141,8 +142,7 @@ int runRecord(run::RunContext& ctx)
             queue.close();
             break;
         }
-        if (limit > 0)
-            ctx.progress.update(100.0 * static_cast<double>(captured.frames) / static_cast<double>(limit), 1.0);
+        progress.update(captured.frames);
     }
     deviceThread.join();
     cap.device.drop();
@@ -151,9 +151,9 @@ int runRecord(run::RunContext& ctx)
         report(ctx, "%s", writeError.c_str());
         return kExitFailure;
     }
-    ctx.progress.finish(captured.error.empty());
+    progress.finish(captured.error.empty());
 
-    const double seconds = static_cast<double>(captured.frames) / fmt.rate;
+    const double seconds = static_cast<double>(captured.frames.load()) / fmt.rate;
     ctx.log.line("recorded %.3f s, %llu DSD bytes per channel", seconds,
                  static_cast<unsigned long long>(writer->bytesPerChannel()));
     reportCapture(ctx, cap, captured);

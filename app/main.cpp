@@ -81,7 +81,8 @@ int main(int argc, char** argv)
     // Updates: the silent check (skipped when ZUVO_NO_UPDATE_CHECK is given).
     startStartupUpdateCheck(window.get());
 
-    window->runPlaytestHook(); // start-up test hooks: at most one of the chain runs
+    if (!window->runPlaytestHook()) // start-up test hooks: at most one of the chain runs
+        window->runRectestHook();
     window->runPreviewHook();
     if (qEnvironmentVariableIsSet("ZUVO_GUI_DUMP_MOD")) {
         for (const QString& option : BasicPage::modulatorOptions()) {

@@ -12,6 +12,7 @@
 #include "cli/options.h"
 #include "cli/refusal_reasons.h"
 #include "control/control_channel.h"
+#include "record/record_run.h"
 #include "run/dxd_run.h"
 #include "run/engine_log.h"
 #include "run/exit_codes.h"
@@ -96,12 +97,8 @@ int run(std::vector<std::string> args)
         std::fflush(stdout);
         return zuvo::kExitOk;
     }
-    if (o.listDevices) {
-        std::printf("ZuvoEngine %s: this build has no audio device backend; input devices: 0, output devices: 0\n",
-                    ZUVO_VERSION);
-        std::fflush(stdout);
-        return zuvo::kExitOk;
-    }
+    if (o.listDevices)
+        return zuvo::record::listDevices();
     if (parsed.usageError())
         return usageErrors(parsed, log);
     for (const auto& w : parsed.warnings) {
@@ -120,6 +117,7 @@ int run(std::vector<std::string> args)
     case zuvo::cli::Mode::Forward: code = zuvo::run::runForward(ctx); break;
     case zuvo::cli::Mode::Reverse: code = zuvo::run::runReverse(ctx); break;
     case zuvo::cli::Mode::Dxd: code = zuvo::run::runDxd(ctx); break;
+    case zuvo::cli::Mode::Record: code = zuvo::record::runRecord(ctx); break;
     }
     log.line("exit code %d", code);
     std::fflush(stdout);

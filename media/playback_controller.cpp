@@ -7,43 +7,20 @@
 #include "engine_discovery.h"
 #include "engine_session.h"
 #include "player_args.h"
-#include "session_inbox.h"
 
 // The playback texts belong to the main window's translation context.
 
-namespace {
-
-bool childProcessesForced()
-{
-    return qEnvironmentVariable("ZUVO_GUI_INPROC") == QLatin1String("0");
-}
-
-} // namespace
-
 PlaybackController::PlaybackController(QObject* parent)
-    : QObject(parent)
-    , inbox_(std::make_unique<SessionInbox>())
+    : SessionController(parent)
 {
 }
 
-PlaybackController::~PlaybackController()
-{
-    discardSession();
-}
+PlaybackController::~PlaybackController() = default;
 
 void PlaybackController::setPlaying(bool playing)
 {
     playing_ = playing;
     emit playingChanged(playing);
-}
-
-void PlaybackController::discardSession()
-{
-    if (!session_)
-        return;
-    SessionInbox::detach(*session_);
-    delete session_;
-    session_ = nullptr;
 }
 
 void PlaybackController::startPlayback(const QString& fileField, const QString& device, bool stream)
@@ -74,14 +51,9 @@ void PlaybackController::startPlayback(const QString& fileField, const QString& 
 
     ++generation_;
     setPlaying(true);
-    carry_.clear();
 
-    discardSession();
-    session_ = createPlayerSession(this);
-    inbox_->attach(*session_);
-    log(QCoreApplication::translate("MainWindow", "试听会话: %1")
-            .arg(session_->isInProcess() ? QCoreApplication::translate("MainWindow", "进程内(直接调库)")
-                                         : QCoreApplication::translate("MainWindow", "子进程")));
+    adoptSession(createPlayerSession(this));
+    log(QCoreApplication::translate("MainWindow", "试听会话: %1").arg(sessionKindText(session_->isInProcess())));
 
     if (session_->start(program, args) < 0) {
         logError(QCoreApplication::translate("MainWindow", "错误: 无法启动播放器 — %1").arg(session_->errorString()));
@@ -90,35 +62,16 @@ void PlaybackController::startPlayback(const QString& fileField, const QString& 
     }
 }
 
-void PlaybackController::poll()
-{
-    if (session_)
-        session_->poll();
-    drain();
-}
-
 void PlaybackController::drain()
 {
-    bool finished = false;
-    int exitCode = 0;
-    bool crashed = false;
-    for (const SessionEvent& event : inbox_->drain()) {
-        if (event.kind == SessionEvent::Finished) {
-            finished = true;
-            exitCode = event.exitCode;
-            crashed = event.crashed;
-            continue;
-        }
-        for (const QString& line : carry_.take(event.text.toUtf8())) {
-            if (line.isEmpty())
-                continue;
-            emit logLine(line, event.fromStderr);
-            double pos = 0, dur = 0;
-            if (parsePlayerPosition(line, &pos, &dur))
-                emit positionChanged(pos, dur);
-        }
-    }
-    if (!finished || !session_)
+    const RunEnd end = drainLines([this](const QString& line) {
+        double pos = 0, dur = 0;
+        if (parsePlayerPosition(line, &pos, &dur))
+            emit positionChanged(pos, dur);
+    });
+    const int exitCode = end.exitCode;
+    const bool crashed = end.crashed;
+    if (!end.finished || !session_)
         return;
     discardSession();
     setPlaying(false);

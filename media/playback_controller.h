@@ -4,17 +4,11 @@
 // (ask, then terminate, then kill) without ever blocking the GUI thread.
 // No widgets: the window forwards the buttons and shows what this reports.
 
-#include <QObject>
 #include <QString>
 
-#include <memory>
+#include "session_controller.h"
 
-#include "line_carry.h"
-
-class EngineSession;
-class SessionInbox;
-
-class PlaybackController : public QObject {
+class PlaybackController : public SessionController {
     Q_OBJECT
 public:
     static constexpr int kStopGraceMs = 8000;
@@ -26,34 +20,23 @@ public:
 
     bool isPlaying() const { return playing_; }
     quint32 generation() const { return generation_; }
-    bool hasSession() const { return session_ != nullptr; }
 
     // `file` is the output-file field as typed (trimmed here).
     void startPlayback(const QString& file, const QString& device, bool stream);
     void stopPlayback();
-    // GUI timer: the session reports its news, then the inbox is drained.
-    void poll();
     // The program closes: "stop", a bounded wait, then a kill if it can.
     void shutDown();
 
 signals:
-    void logLine(const QString& text, bool isError);
     void playingChanged(bool playing);
     void positionChanged(double seconds, double duration);
 
 private:
-    void drain();
+    void drain() override;
     void setPlaying(bool playing);
-    void discardSession();
     void onStopGraceExpired(quint32 generation);
     void onKillDelayExpired(quint32 generation);
 
-    void log(const QString& text) { emit logLine(text, false); }
-    void logError(const QString& text) { emit logLine(text, true); }
-
-    EngineSession* session_ = nullptr;
-    std::unique_ptr<SessionInbox> inbox_;
-    LineCarry carry_;
     bool playing_ = false;
     quint32 generation_ = 0;
 };

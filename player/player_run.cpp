@@ -13,6 +13,8 @@
 
 namespace zuvo::player {
 
+using alsa::AlsaDevice;
+
 namespace {
 
 void say(const std::string& line)
@@ -69,7 +71,7 @@ private:
 
 int listDevices()
 {
-    const std::vector<std::string> devices = AlsaDevice::listPlaybackDevices();
+    const std::vector<std::string> devices = AlsaDevice::listDevices(AlsaDevice::Direction::Playback);
     say("Playback devices (" + std::to_string(devices.size()) + "):");
     for (const std::string& d : devices)
         say(d);

@@ -3,7 +3,7 @@
 # ThreadSanitizer and with AddressSanitizer + UBSan, and runs them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-suites=(tst_session_control tst_session_proc tst_session_inproc tst_session_inbox tst_convert_queue tst_playback_controller)
+suites=(tst_session_control tst_session_proc tst_session_inproc tst_session_inbox tst_convert_queue tst_playback_controller tst_recording_controller)
 for kind in thread address; do
     dir="build-$kind"
     cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZUVO_SANITIZE="$kind" \

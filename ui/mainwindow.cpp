@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include <QFileInfo>
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QSplitter>
 #include <QStatusBar>
@@ -19,6 +20,7 @@
 #include "log_pane.h"
 #include "parameter_tabs.h"
 #include "playback_controller.h"
+#include "recording_controller.h"
 #include "run_controls.h"
 
 MainWindow::MainWindow(QWidget* parent)
@@ -44,6 +46,7 @@ MainWindow::~MainWindow()
     setArgNoteSink(nullptr);
     queue_->shutDown();
     shutDownPlayback();
+    shutDownRecording();
     // The queue (and with it the conversion session) goes last, with the window's children.
 }
 
@@ -53,25 +56,7 @@ void MainWindow::buildUi()
     auto* layout = new QVBoxLayout(central);
     io_ = new InputOutputPanel(central);
     run_ = new RunControlsPanel(central);
-    buildPages();
-    tabs_->insertPage(5, createPlayPage(tabs_), tr("播放"));
-    // The pages get the room; the file list and the log shrink to a few
-    // lines first (they scroll), and the splitter lets the user trade
-    // between the three, so nothing overlaps in a small window.
-    for (QWidget* w : std::initializer_list<QWidget*>{io_->fileList(), run_->log()}) {
-        w->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-        w->setMinimumHeight(64);
-    }
-    tabs_->setMinimumHeight(200);
-    auto* split = new QSplitter(Qt::Vertical, central);
-    split->addWidget(io_);
-    split->addWidget(tabs_);
-    split->addWidget(run_);
-    split->setChildrenCollapsible(false);
-    split->setStretchFactor(0, 0);
-    split->setStretchFactor(1, 1);
-    split->setStretchFactor(2, 0);
-    layout->addWidget(split);
+#include <QSplitter>
     setCentralWidget(central);
     // The status bar's permanent widgets (language, updates) join at its right end.
     statusBar();
@@ -156,4 +141,5 @@ void MainWindow::onPollTimer()
     // GUI thread picks their news up.
     queue_->poll();
     playback_->poll();
+    recording_->poll();
 }

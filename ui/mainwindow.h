@@ -13,6 +13,7 @@ class ConversionQueue;
 class EngineCapabilityProbe;
 class EqualizerPage;
 class FilterPage;
+class DiagnosticsDialog;
 class InputOutputPanel;
 class ParameterTabs;
 class SpatialTonePage;
@@ -20,6 +21,9 @@ struct EqBand;
 struct MasterPreset;
 class PlaybackController;
 class PlayPage;
+class RecordingController;
+class RecordingProbe;
+class RecordPage;
 class QTemporaryDir;
 class QTimer;
 class RunControlsPanel;
@@ -74,11 +78,26 @@ public:
     // ZUVO_AI_PLAYTEST: true when this start-up hook was the one to run.
     bool runPlaytestHook();
 
+    // Recording (mainwindow_recording.cpp).
+    void startRecording();
+    void stopRecording();
+    void runRecordingProbe();
+    // The Recording page became the current page: probes once when no verdict exists.
+    void recordPageShown();
+    // ZUVO_AI_RECTEST: true when this start-up hook was the one to run.
+    bool runRectestHook();
+
+    // About / Diagnostics (mainwindow_diagnostics.cpp); the dialog deletes itself.
+    DiagnosticsDialog* openDiagnostics();
+
 private:
     void connectPresets();
     void buildUi();
     QWidget* createPlayPage(QWidget* parent);
     void shutDownPlayback();
+    QWidget* createRecordPage(QWidget* parent);
+    void shutDownRecording();
+    QWidget* createDiagnosticsButtons(QWidget* parent);
     void locateEngine();
     void onPollTimer();
     void buildPages();
@@ -106,6 +125,9 @@ private:
     QTimer* pollTimer_ = nullptr;
     PlayPage* playPage_ = nullptr;
     PlaybackController* playback_ = nullptr;
+    RecordPage* recordPage_ = nullptr;
+    RecordingController* recording_ = nullptr;
+    RecordingProbe* recordingProbe_ = nullptr;
     ConversionSettings settings_;
     QString enginePath_;
     QString engineLogPath_;

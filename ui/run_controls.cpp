@@ -17,6 +17,7 @@ RunControlsPanel::RunControlsPanel(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
 
     auto* row = new QHBoxLayout;
+    buttonRow_ = row;
     start_ = new QPushButton(tr("开始转换"), this);
     stop_ = new QPushButton(tr("停止"), this);
     auto* clearLog = new QPushButton(tr("清空日志"), this);
@@ -66,4 +67,10 @@ void RunControlsPanel::setRunning(bool running)
     start_->setEnabled(!running);
     // The switch is a conversion parameter: it stays as the running queue took it.
     verbose_->setEnabled(!running);
+}
+
+void RunControlsPanel::addToButtonRow(QWidget* w)
+{
+    // Before the trailing stretch, so the row stays packed to the left.
+    buttonRow_->insertWidget(buttonRow_->count() - 1, w);
 }

@@ -8,6 +8,8 @@ class QPushButton;
 
 // The bottom of the main window: start/stop, the log switches, the queue's
 // progress bar and the log pane.
+class QHBoxLayout;
+
 class RunControlsPanel : public QWidget {
     Q_OBJECT
 public:
@@ -18,12 +20,15 @@ public:
     bool verbose() const;
     void setVerbose(bool on);
     void setRunning(bool running);
+    // Puts `w` at the end of the button row (after the log switches).
+    void addToButtonRow(QWidget* w);
 
 signals:
     void startClicked();
     void stopClicked();
 
 private:
+    QHBoxLayout* buttonRow_ = nullptr;
     QPushButton* start_ = nullptr;
     QPushButton* stop_ = nullptr;
     QCheckBox* verbose_ = nullptr;

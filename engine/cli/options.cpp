@@ -104,6 +104,8 @@ bool Parser::handle(const std::string& a)
             o.tags.*(t->second) = s;
         return true;
     }
+    if (record::takeRecordOption(args_, i_, o.record, result_.errors))
+        return true;
     if (a == "-i" || a == "--input") {
         if (value(s)) {
             if (s.empty())
@@ -297,6 +299,17 @@ void Parser::validate()
     EngineOptions& o = result_.options;
     if (o.showHelp || o.showVersion || o.listDevices || o.showCapabilities)
         return;
+    if (o.record.enabled || o.record.anyGiven) {
+        if (!positional_.empty()) {
+            o.output = positional_.back();
+            positional_.pop_back();
+        }
+        const bool otherMode = o.mode != Mode::Forward || !o.inputs.empty() || !positional_.empty();
+        record::validateRecordOptions(o.record, o.pdfReportAsked, o.output, otherMode, result_.errors);
+        if (o.record.enabled)
+            o.mode = Mode::Record;
+        return;
+    }
     // The output is the last plain argument; earlier ones are inputs.
     if (!positional_.empty()) {
         o.output = positional_.back();

@@ -11,10 +11,11 @@
 #include "dsp/dsd_pipeline.h"
 #include "effects/effect_options.h"
 #include "io/tags.h"
+#include "record/record_options.h"
 
 namespace zuvo::cli {
 
-enum class Mode { Forward, Reverse, Dxd };
+enum class Mode { Forward, Reverse, Dxd, Record };
 
 struct EngineOptions {
     Mode mode = Mode::Forward;
@@ -58,6 +59,9 @@ struct EngineOptions {
     bool floatOut = false;   // --float
     double lowpassHz = 0;    // --lowpass
     int dxdRate = 352800;    // --dxd-samplerate
+
+    // Capture from an audio device (--record); the design options above apply.
+    record::RecordOptions record;
 };
 
 struct ParsedCommandLine {

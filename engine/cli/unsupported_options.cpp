@@ -13,8 +13,8 @@ struct Row {
     ValueShape shape;
 };
 
-// Effects, repair stages, analysis extras, channel re-mapping, OpenCL
-// and recording: not in this version of the engine.
+// Repair stages, analysis extras and OpenCL are not in this version of the
+// engine.
 const Row kRows[] = {
     // Repair and restoration.
     {"--dehum", ValueShape::None}, {"--dehum-q", ValueShape::One},
@@ -54,13 +54,6 @@ const Row kRows[] = {
     // Analysis extras.
     {"--measure", ValueShape::None}, {"--stats", ValueShape::None}, {"--spectrogram", ValueShape::One},
     {"--hfacheck", ValueShape::None},
-    // Recording.
-    {"--record", ValueShape::None}, {"--record-dsd", ValueShape::None}, {"--dsd-mode", ValueShape::One},
-    {"--record-device", ValueShape::One}, {"--record-channels", ValueShape::One},
-    {"--record-duration", ValueShape::One}, {"--record-monitor", ValueShape::None},
-    {"--record-exclusive", ValueShape::None}, {"--record-headroom", ValueShape::One},
-    {"--record-buffer", ValueShape::One}, {"--record-samplerate", ValueShape::One},
-    {"--record-monitor-device", ValueShape::One},
 };
 
 } // namespace

@@ -36,7 +36,9 @@ std::size_t blockFrames(int inputRate, int dsdRate)
     return std::clamp<std::size_t>(frames, 1024, 16384);
 }
 
-dsp::ForwardConfig makeConfig(const cli::EngineOptions& o, int inputRate)
+} // namespace
+
+dsp::ForwardConfig forwardConfig(const cli::EngineOptions& o, int inputRate)
 {
     dsp::ForwardConfig c;
     c.inputRate = inputRate;
@@ -58,8 +60,6 @@ const char* modulatorName(dsp::ModulatorType t)
     }
     return "?";
 }
-
-} // namespace
 
 int runForward(RunContext& ctx)
 {
@@ -127,7 +127,7 @@ int runForward(RunContext& ctx)
         report(ctx, "%s", error.c_str());
         return kExitUsage;
     }
-    dsp::ForwardConfig config = makeConfig(o, in.sampleRate);
+    dsp::ForwardConfig config = forwardConfig(o, in.sampleRate);
     if (!chain.empty()) {
         config.effectGain = chain.worstCaseGain();
         ctx.log.line("effects (%d -> %d channels):", chain.inChannels(), chain.outChannels());

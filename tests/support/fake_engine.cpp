@@ -172,6 +172,16 @@ int fake_engine_run(int argc, char** argv)
                     return code;
                 std::this_thread::sleep_for(std::chrono::milliseconds(5));
             }
+        } else if (cmd == "wait-line") {
+            std::string word;
+            int ms = 0, code = 0;
+            std::istringstream(rest) >> word >> ms >> code;
+            const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
+            while (std::chrono::steady_clock::now() < deadline) {
+                if (control.received(word))
+                    return code;
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            }
         } else if (cmd == "log") {
             const std::string logPath = optionValue(args, "--log-file");
             if (!logPath.empty())

@@ -13,6 +13,8 @@
 //   raw TEXT              TEXT on stdout without a newline
 //   sleep MS
 //   wait-stop MS [CODE]   wait up to MS for "stop"; on it exit with CODE (195)
+//   wait-line WORD MS [CODE]  wait up to MS for the control line WORD (e.g. "q");
+//                     on it exit with CODE (0)
 //   log TEXT              append a line to the --log-file path
 //   touch-output          create the output file (last argument) with junk in it
 //   write-output          write a complete, minimal DSF as the output

@@ -5,7 +5,7 @@
 #include <chrono>
 #include <thread>
 
-namespace zuvo::player {
+namespace zuvo::alsa {
 
 namespace {
 
@@ -30,16 +30,19 @@ AlsaDevice::~AlsaDevice()
         snd_pcm_close(pcm_);
 }
 
-bool AlsaDevice::open(const std::string& name, std::string* error)
+bool AlsaDevice::open(const std::string& name, std::string* error, Direction direction, bool exact)
 {
-    const int rc = snd_pcm_open(&pcm_, name.c_str(), SND_PCM_STREAM_PLAYBACK, 0);
+    const bool capture = direction == Direction::Capture;
+    const int mode = exact ? SND_PCM_NO_AUTO_RESAMPLE | SND_PCM_NO_AUTO_CHANNELS | SND_PCM_NO_AUTO_FORMAT : 0;
+    const int rc = snd_pcm_open(&pcm_, name.c_str(), capture ? SND_PCM_STREAM_CAPTURE : SND_PCM_STREAM_PLAYBACK, mode);
     if (rc < 0) {
         pcm_ = nullptr;
         if (error) {
             const std::string why = rc == -ENOENT ? "ALSA knows no device of that name (see --list-devices)"
                                   : rc == -EBUSY  ? "the device is in use by another program"
                                                   : std::string(snd_strerror(rc));
-            *error = "cannot open the playback device \"" + name + "\": " + why;
+            *error = std::string(capture ? "cannot open the capture device \"" : "cannot open the playback device \"")
+                   + name + "\": " + why;
         }
         return false;
     }
@@ -72,7 +75,8 @@ bool AlsaDevice::accepts(snd_pcm_format_t format, unsigned rate, unsigned channe
         && snd_pcm_hw_params_set_rate(pcm_, hw.p, rate, 0) == 0;
 }
 
-bool AlsaDevice::configure(snd_pcm_format_t format, unsigned rate, unsigned channels, std::string* error)
+bool AlsaDevice::configure(snd_pcm_format_t format, unsigned rate, unsigned channels, std::string* error,
+                           std::size_t wantPeriod)
 {
     HwParams hw;
     int rc = snd_pcm_hw_params_any(pcm_, hw.p);
@@ -90,9 +94,15 @@ bool AlsaDevice::configure(snd_pcm_format_t format, unsigned rate, unsigned chan
     }
     // A short buffer keeps "stop" and the position display prompt; a few
     // periods in it ride out scheduling hiccups.
-    unsigned bufferUs = 250000, periodUs = 50000;
-    snd_pcm_hw_params_set_buffer_time_near(pcm_, hw.p, &bufferUs, nullptr);
-    snd_pcm_hw_params_set_period_time_near(pcm_, hw.p, &periodUs, nullptr);
+    if (wantPeriod > 0) {
+        snd_pcm_uframes_t period = wantPeriod, buffer = wantPeriod * 8;
+        snd_pcm_hw_params_set_period_size_near(pcm_, hw.p, &period, nullptr);
+        snd_pcm_hw_params_set_buffer_size_near(pcm_, hw.p, &buffer);
+    } else {
+        unsigned bufferUs = 250000, periodUs = 50000;
+        snd_pcm_hw_params_set_buffer_time_near(pcm_, hw.p, &bufferUs, nullptr);
+        snd_pcm_hw_params_set_period_time_near(pcm_, hw.p, &periodUs, nullptr);
+    }
     if ((rc = snd_pcm_hw_params(pcm_, hw.p)) < 0) {
         if (error)
             *error = alsaError("cannot configure the device", rc);
@@ -150,6 +160,48 @@ long long AlsaDevice::write(const std::uint8_t* data, std::size_t frames, const 
     return static_cast<long long>(done);
 }
 
+long long AlsaDevice::read(std::uint8_t* data, std::size_t frames, const std::function<bool()>& stop,
+                           std::string* error)
+{
+    for (;;) {
+        if (stop && stop())
+            return 0;
+        const std::size_t n = std::min(periodFrames_, frames);
+        snd_pcm_sframes_t r;
+        if (interleaved_) {
+            r = snd_pcm_readi(pcm_, data, n);
+        } else {
+            planar_.resize(n * frameBytes_);
+            std::vector<void*> bufs(channels_);
+            for (unsigned c = 0; c < channels_; ++c)
+                bufs[c] = planar_.data() + c * n * sampleBytes_;
+            r = snd_pcm_readn(pcm_, bufs.data(), n);
+            for (snd_pcm_sframes_t i = 0; i < r; ++i)
+                for (unsigned c = 0; c < channels_; ++c)
+                    std::copy_n(planar_.data() + (c * n + static_cast<std::size_t>(i)) * sampleBytes_, sampleBytes_,
+                                data + static_cast<std::size_t>(i) * frameBytes_ + c * sampleBytes_);
+        }
+        if (r == -EAGAIN || r == 0) {
+            snd_pcm_wait(pcm_, 20);
+            continue;
+        }
+        if (r < 0) {
+            // An overrun loses the frames the device could not hold; the
+            // recording goes on with a gap that the caller logs.
+            if (r == -EPIPE)
+                ++overruns_;
+            const int rc = snd_pcm_recover(pcm_, static_cast<int>(r), 1);
+            if (rc < 0) {
+                if (error)
+                    *error = alsaError("reading from the device failed", static_cast<int>(r));
+                return -1;
+            }
+            continue;
+        }
+        return r;
+    }
+}
+
 bool AlsaDevice::drain(const std::function<bool()>& stop)
 {
     // Non-blocking, so a "stop" during the last buffer still ends at once.
@@ -179,8 +231,9 @@ long long AlsaDevice::delayFrames() const
     return d;
 }
 
-std::vector<std::string> AlsaDevice::listPlaybackDevices()
+std::vector<std::string> AlsaDevice::listDevices(Direction direction)
 {
+    const std::string wanted = direction == Direction::Capture ? "Input" : "Output";
     std::vector<std::string> out;
     void** hints = nullptr;
     if (snd_device_name_hint(-1, "pcm", &hints) < 0 || !hints)
@@ -189,7 +242,7 @@ std::vector<std::string> AlsaDevice::listPlaybackDevices()
         char* name = snd_device_name_get_hint(*h, "NAME");
         char* desc = snd_device_name_get_hint(*h, "DESC");
         char* ioid = snd_device_name_get_hint(*h, "IOID");
-        if (name && (!ioid || std::string(ioid) == "Output")) {
+        if (name && (!ioid || wanted == ioid)) {
             std::string d = desc ? desc : "";
             std::replace(d.begin(), d.end(), '\n', ' ');
             out.push_back(std::string(name) + (d.empty() ? "" : "\t" + d));
@@ -202,4 +255,4 @@ std::vector<std::string> AlsaDevice::listPlaybackDevices()
     return out;
 }
 
-} // namespace zuvo::player
+} // namespace zuvo::alsa

@@ -10,6 +10,8 @@
 #include <memory>
 
 #include "console_attach.h"
+#include "device_listing.h"
+#include "engine_discovery.h"
 #include "engine_main.h"
 #include "language_selector.h"
 #include "mainwindow.h"
@@ -97,7 +99,18 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsSet("ZUVO_GUI_SMOKE")) {
         std::printf("%s\n", languageSmokeLine(languageTag).toUtf8().constData());
         std::fflush(stdout);
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        if (qEnvironmentVariableIsSet("ZUVO_GUI_SMOKE_ABOUT")) {
+            runDeviceListing(findEngine(), qApp, [](qint64 triggerMs, const QString& result) {
+                const QString head = result.left(120).replace(QLatin1Char('\n'), QLatin1Char(' '));
+                std::printf("SMOKE_ABOUT trigger_ms=%lld result_chars=%d head=\"%s\"\n",
+                            static_cast<long long>(triggerMs), static_cast<int>(result.size()),
+                            head.toUtf8().constData());
+                std::fflush(stdout);
+                QCoreApplication::exit(result.size() < 1 ? 3 : 0);
+            });
+        } else {
+            QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        }
     }
 
     const int code = QApplication::exec();

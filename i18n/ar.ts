@@ -137,115 +137,115 @@
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: أبلغ المحرك بالاكتمال، لكن لم يُكتب ملف الإخراج %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: أبلغ المحرك بالاكتمال، لكن ملف الإخراج %2 لم يُكتب (لا يزال الملف القديم)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف فارغ</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: أبلغ المحرك بالاكتمال، لكن تعذّرت قراءة ملف الإخراج (%2)، وقد حُذف: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: أبلغ المحرك بالاكتمال، لكن تعذّرت قراءة ملف الإخراج (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(السطر طويل جدًا؛ لم تُعرض الأحرف المتبقية: %1)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملف DSF</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>طول الملف في ترويسة DSF لا يطابق الطول الفعلي (الملف غير مكتمل)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة التنسيق في DSF غير صالحة</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة البيانات في DSF غير صالحة</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع البيانات الوصفية في DSF غير صالح</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملف DSDIFF</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>الطول في ترويسة DSDIFF لا يطابق الطول الفعلي (الملف غير مكتمل)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة DSDIFF تتجاوز نهاية الملف</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة FVER/PROP/الصوت مفقودة في DSDIFF</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملف WAV</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة ds64 في RF64 غير صالحة</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة التنسيق مفقودة في WAV</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة البيانات في WAV تتجاوز نهاية الملف (الملف غير مكتمل)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة التنسيق في WAV غير صالحة</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة البيانات مفقودة في WAV</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملف W64</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة W64 تتجاوز نهاية الملف (الملف غير مكتمل)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة التنسيق مفقودة في W64</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>كتلة البيانات مفقودة في W64</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس ملف FLAC</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>STREAMINFO مفقود في FLAC</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الفتح</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعداد المسبق لـ AUTORUN: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ تعذّر استخدام الإعداد المسبق لـ AUTORUN: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ: الملف المحدد في ZUVO_AI_PLAYTEST غير موجود: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>يُمرَّر اسم الجهاز كما هو إلى ZuvoPlayer -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>جهاز DAC:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع التشغيل المتدفق (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>مصدر التشغيل = «ملف الإخراج» أعلاه (كما في إصدار GTK: يشغّل ملف DSF/DFF المحوَّل للتو)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف التشغيل</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل جارٍ بالفعل، أوقفه أولًا</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ: ملف التشغيل غير موجود أو تتعذّر قراءته: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(لم يُعيَّن ملف الإخراج)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ: لم يُعثر على ZuvoPlayer — ضعه بجوار هذا البرنامج أو أضفه إلى PATH (أو عيّن ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>بدء تشغيل المشغّل: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>بدء التشغيل: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>جلسة الاستماع: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">داخل العملية (استدعاء المكتبة مباشرة)</translation>
+        <translation>داخل العملية (استدعاء المكتبة مباشرة)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>عملية فرعية</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ: تعذّر تشغيل المشغّل — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل التشغيل</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>توقف التشغيل</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خرج المشغّل بشكل غير طبيعي، الرمز: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد تشغيل جارٍ حاليًا</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إيقاف المشغّل…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[تحكم] %1</translation>
+        <translation>[تحكم] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُنهِ المشغّل عمله خلال %1 ثانية (يعمل هذه المرة داخل العملية، فلا يمكن إنهاؤه قسرًا)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُنهِ المشغّل عمله خلال %1 ثانية، جارٍ إنهاؤه قسرًا</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يزال لا يستجيب، جارٍ إنهاء المشغّل قسرًا</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من التحديثات…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>حول / التشخيص…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>عرض إصدار المحرك / سرد أجهزة الصوت / عرض تعليمات المحرك</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>تراخيص الشيفرة المصدرية…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>المعايير المرجعية…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>خطأ: يتطلب ZUVO_AI_RECTEST مسار إخراج .dsf</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(لم يُخرج المحرك شيئًا)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+رمز الخروج = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>محرك هذا الإصدار لا يتضمن واجهة تسجيل خلفية (راجع سطر الحالة في علامة تبويب التسجيل): لا يمكن بدء التسجيل</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>التسجيل قيد التنفيذ بالفعل</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>التسجيل</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>حدّد أولًا مسار حفظ التسجيل في «ملف الإخراج» أعلاه</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>يجب أن يكون ملف إخراج التسجيل بصيغة .dsf</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>خطأ: لم يُعثر على ZuvoEngine (يتطلب التسجيل دعم التسجيل في المحرك)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>أمر التسجيل: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>بدأ التسجيل → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>تلميح: عند الإيقاف يُرسَل 'q' ليُنهي المحرك عمله بسلاسة (يوقف معالجة PCM أولًا ثم يكتب DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>جارٍ التسجيل…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>جلسة التسجيل: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>خطأ: تعذّر تشغيل المحرك (التسجيل) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>لا يوجد تسجيل قيد التنفيذ</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>أُرسل 'q' إلى المحرك — في انتظار الإنهاء السلس (يكتب DSF ثم يخرج تلقائيًا)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>محرك التسجيل لم يعد قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>لم يُنهِ المحرك عمله خلال 12 s (هذا التشغيل داخل العملية، فلا يمكن إنهاؤه قسرًا)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>لم يخرج المحرك خلال 12 s، جارٍ الإنهاء القسري</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>تم حفظ التسجيل: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>فشل التسجيل، رمز الخروج: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>انتهت عملية التسجيل بشكل غير طبيعي (تعطّل/إنهاء قسري)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>واجهة التسجيل الخلفية: متاحة — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>واجهة التسجيل الخلفية: غير متاحة — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>أجهزة الإدخال: %1 (مدرجة في السجل)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>رمز خروج المحرك = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>لم يُعثر على ZuvoEngine — ضعه في مجلد البرنامج، أو أضفه إلى PATH، أو عيّن ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>لم يستجب الفحص خلال 30 s، تم الإنهاء</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">تعذّرت قراءة الملف</translation>
+        <translation>تعذّرت قراءة الملف</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>المعايير المرجعية</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>تراخيص الشيفرة المصدرية</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من التحديثات…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من التحديثات</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>لديك أحدث إصدار (%1). أحدث إصدار على الخادم هو %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل التحقق من التحديثات:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر إصدار جديد %1 (الإصدار الحالي %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>تاريخ الإصدار: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>ملاحظات الإصدار: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر إصدار جديد</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>تنزيل وتحديث</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح صفحة التنزيل</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>لاحقًا</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تنزيل التحديث…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>تنزيل التحديث</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>سيُغلق البرنامج الآن.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل التحديث</translation>
     </message>
 </context>
 <context>

@@ -137,115 +137,115 @@ Fertig: %1 OK, %2 fehlgeschlagen</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: Engine meldet Abschluss, aber es wurde keine Ausgabedatei geschrieben: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: Engine meldet Abschluss, aber die Ausgabedatei %2 wurde nicht geschrieben (noch die alte)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei ist leer</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: Engine meldet Abschluss, aber die Ausgabedatei ist nicht lesbar (%2), gelöscht: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: Engine meldet Abschluss, aber die Ausgabedatei ist nicht lesbar (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(Zeile zu lang, %1 weitere Zeichen nicht angezeigt)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine DSF-Datei</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateilänge im DSF-Header stimmt nicht mit der tatsächlichen überein (Datei unvollständig)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF-Format-Chunk ungültig</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF-Daten-Chunk ungültig</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF-Metadatenposition ungültig</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine DSDIFF-Datei</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge im DSDIFF-Header stimmt nicht mit der tatsächlichen überein (Datei unvollständig)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF-Chunk reicht über das Dateiende hinaus</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF: FVER-/PROP-/Sound-Chunk fehlt</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine WAV-Datei</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>ds64-Chunk in RF64 ungültig</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV: Format-Chunk fehlt</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV-Daten-Chunk reicht über das Dateiende hinaus (Datei unvollständig)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV-Format-Chunk ungültig</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV: Daten-Chunk fehlt</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine W64-Datei</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>W64-Chunk reicht über das Dateiende hinaus (Datei unvollständig)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64: Format-Chunk fehlt</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64: Daten-Chunk fehlt</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine FLAC-Datei</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC: STREAMINFO fehlt</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann nicht geöffnet werden</translation>
     </message>
 </context>
 <context>
@@ -629,7 +629,7 @@ oder setzen Sie die Umgebungsvariable ZUVO_ENGINE_BIN auf ihren vollständigen P
     </message>
     <message>
         <source>空间与音调</source>
-        <translation>Raum &amp; Klang</translation>
+        <translation>Raum &amp;&amp; Klang</translation>
     </message>
     <message>
         <source>声道</source>
@@ -871,11 +871,11 @@ Deaktivieren Sie sie auf den Parameterseiten und starten Sie erneut (in Presets 
     </message>
     <message>
         <source>带宽、加速与报告</source>
-        <translation>Bandbreite, Beschleunigung &amp; Bericht</translation>
+        <translation>Bandbreite, Beschleunigung &amp;&amp; Bericht</translation>
     </message>
     <message>
         <source>降噪与报告内容</source>
-        <translation>Entrauschen &amp; Berichtsinhalt</translation>
+        <translation>Entrauschen &amp;&amp; Berichtsinhalt</translation>
     </message>
     <message>
         <source>噪声本底分析需要勾选 PDF 报告才能生效
@@ -1145,119 +1145,259 @@ Der Quad-Modus erfordert eine zurückgesetzte Kanalzahl von 4; beim Aktivieren w
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN-Preset: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ AUTORUN-Preset nicht verwendbar: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: Die in ZUVO_AI_PLAYTEST angegebene Datei existiert nicht: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerätename wird direkt an ZuvoPlayer -dev übergeben</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>DAC-Gerät:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>Streaming-Wiedergabe (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabequelle = „Ausgabedatei“ oben (wie in der GTK-Version: spielt die gerade konvertierte DSF/DFF ab)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe stoppen</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe läuft bereits, bitte zuerst stoppen</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: Wiedergabedatei fehlt oder ist nicht lesbar: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(keine Ausgabedatei festgelegt)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: ZuvoPlayer nicht gefunden — in den Programmordner legen oder zu PATH hinzufügen (oder ZUVO_PLAYER_BIN setzen)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Player wird gestartet: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabesitzung: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">im Prozess (direkter Bibliotheksaufruf)</translation>
+        <translation>im Prozess (direkter Bibliotheksaufruf)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterprozess</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: Player kann nicht gestartet werden — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe beendet</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe gestoppt</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Player abnormal beendet, Code: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine laufende Wiedergabe</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>Player wird gestoppt…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[Steuerung] %1</translation>
+        <translation>[Steuerung] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>Player hat nicht innerhalb von %1 s abgeschlossen (läuft diesmal im Prozess, kann nicht zwangsweise beendet werden)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>Player hat nicht innerhalb von %1 s abgeschlossen, wird zwangsweise beendet</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiterhin keine Reaktion, Player wird zwangsweise beendet</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>Info/Diagnose…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>Engine-Version anzeigen / Audiogeräte auflisten / Engine-Hilfe anzeigen</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>Quelllizenzen…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>Referenzstandards…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>Fehler: ZUVO_AI_RECTEST benötigt einen Ausgabepfad (.dsf)</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(keine Ausgabe der Engine)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+Exit-Code = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>Die Engine dieses Builds hat kein Aufnahme-Backend (siehe Statuszeile im Tab „Aufnahme“): Aufnahme nicht möglich</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>Aufnahme läuft bereits</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>Bitte zuerst oben unter „Ausgabedatei“ den Speicherpfad der Aufnahme festlegen</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>Die Ausgabedatei der Aufnahme muss im Format .dsf sein</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>Fehler: ZuvoEngine nicht gefunden (Aufnahme erfordert Aufnahmeunterstützung der Engine)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>Aufnahmebefehl: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>Aufnahme gestartet → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>Hinweis: Beim Stoppen wird 'q' gesendet, damit die Engine sauber abschließt (erst PCM-Verarbeitung beenden, dann DSF schreiben)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>Aufnahme läuft…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>Aufnahmesitzung: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>Fehler: Engine kann nicht gestartet werden (Aufnahme) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>Keine laufende Aufnahme</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>'q' an die Engine gesendet — warte auf sauberen Abschluss (DSF schreiben, dann Beenden)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>Die Aufnahme-Engine läuft nicht mehr</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>Die Engine hat nicht innerhalb von 12 s abgeschlossen (dieser Lauf ist prozessintern und kann nicht erzwungen beendet werden)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>Die Engine wurde nicht innerhalb von 12 s beendet, erzwungener Abbruch</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>Aufnahme gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>Aufnahme fehlgeschlagen, Exit-Code: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>Aufnahmeprozess unerwartet beendet (Absturz/abgebrochen)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>Aufnahme-Backend: verfügbar — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>Aufnahme-Backend: nicht verfügbar — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>Eingabegeräte: %1 (im Log aufgelistet)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>Engine-Exit-Code = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>ZuvoEngine nicht gefunden — in den Programmordner legen, zu PATH hinzufügen oder ZUVO_ENGINE_BIN setzen</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>Prüfung 30 s ohne Antwort, abgebrochen</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@ Speicherordner: %1</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">Datei kann nicht gelesen werden</translation>
+        <translation>Datei kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>Referenzstandards</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@ An: Es wird unter %1 geschrieben und behalten, damit Sie es zur Fehlersuche an d
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>Quelllizenzen</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@ An: Es wird unter %1 geschrieben und behalten, damit Sie es zur Fehlersuche an d
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie verwenden die neueste Version (%1). Die neueste Version auf dem Server ist %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates fehlgeschlagen:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Version %1 verfügbar (installiert: %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Veröffentlichungsdatum: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionshinweise: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Version verfügbar</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen und aktualisieren</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Seite öffnen</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Update wird heruntergeladen…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Update herunterladen</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Update</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm wird jetzt beendet.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Update fehlgeschlagen</translation>
     </message>
 </context>
 <context>

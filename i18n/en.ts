@@ -137,115 +137,115 @@ Done: %1 OK, %2 failed</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: engine reported success, but no output file was written: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: engine reported success, but output file %2 was not written (still the old one)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>File is empty</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: engine reported success, but the output file cannot be read (%2); deleted: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: engine reported success, but the output file cannot be read (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(line too long; %1 more characters not shown)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Not a DSF file</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>File size in DSF header does not match the actual size (file incomplete)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Invalid DSF format chunk</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Invalid DSF data chunk</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Invalid DSF metadata offset</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Not a DSDIFF file</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Size in DSDIFF header does not match the actual size (file incomplete)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF chunk extends past end of file</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF is missing the FVER/PROP/sound chunk</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Not a WAV file</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Invalid ds64 chunk in RF64</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV is missing the format chunk</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV data chunk extends past end of file (file incomplete)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Invalid WAV format chunk</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV is missing the data chunk</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Not a W64 file</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 chunk extends past end of file (file incomplete)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 is missing the format chunk</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 is missing the data chunk</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Not a FLAC file</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC is missing STREAMINFO</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot open</translation>
     </message>
 </context>
 <context>
@@ -629,7 +629,7 @@ or set the environment variable ZUVO_ENGINE_BIN to its full path.</translation>
     </message>
     <message>
         <source>空间与音调</source>
-        <translation>Spatial &amp; Tone</translation>
+        <translation>Spatial &amp;&amp; Tone</translation>
     </message>
     <message>
         <source>声道</source>
@@ -871,11 +871,11 @@ Turn them off on the parameter pages and start again (they can stay in presets).
     </message>
     <message>
         <source>带宽、加速与报告</source>
-        <translation>Bandwidth, Acceleration &amp; Report</translation>
+        <translation>Bandwidth, Acceleration &amp;&amp; Report</translation>
     </message>
     <message>
         <source>降噪与报告内容</source>
-        <translation>Denoise &amp; Report Content</translation>
+        <translation>Denoise &amp;&amp; Report Content</translation>
     </message>
     <message>
         <source>噪声本底分析需要勾选 PDF 报告才能生效
@@ -1077,7 +1077,7 @@ Quad mode requires a reset channel count of 4; it is set to 4 automatically when
     </message>
     <message>
         <source>使用引擎内置 HRIR; 不提供自定义 .sofa 文件</source>
-        <translation>Uses the engine&apos;s built-in HRIR; custom .sofa files are not supported</translation>
+        <translation>Uses the engine's built-in HRIR; custom .sofa files are not supported</translation>
     </message>
     <message>
         <source>环绕</source>
@@ -1145,119 +1145,259 @@ Quad mode requires a reset channel count of 4; it is set to 4 automatically when
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Play</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN preset: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ AUTORUN preset unusable: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: the file given by ZUVO_AI_PLAYTEST does not exist: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Device name passed to ZuvoPlayer as -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>DAC device:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>Streaming playback mode (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Playback source = “Output file” above (as in the GTK version: plays the DSF/DFF just converted)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop Playback</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Playback already running; stop it first</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: file to play is missing or unreadable: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(output file not set)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: ZuvoPlayer not found — place it next to this program or add it to PATH (or set ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Starting player: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Playing: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Playback session: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">in-process (direct library call)</translation>
+        <translation>in-process (direct library call)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>child process</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: cannot start the player — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Playback finished</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Playback stopped</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Player exited abnormally, code: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing is playing</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopping player…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[control] %1</translation>
+        <translation>[control] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>Player did not finish within %1 s (running in-process this time, so it cannot be forced to stop)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>Player did not finish within %1 s; forcing it to stop</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Still not responding; killing the player</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>About / Diagnostics…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>Show engine version / list audio devices / show engine help</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>Source Licenses…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>Reference Standards…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>Error: ZUVO_AI_RECTEST needs an output .dsf path</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(the engine produced no output)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+Exit code = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>This build's engine has no recording backend (see the status line on the Recording tab): cannot start recording</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>Recording already in progress</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>Set the recording path in the “Output file” field above first</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>The recording output file must be .dsf</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>Error: ZuvoEngine not found (recording needs engine recording support)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>Record command: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>Recording started → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>Tip: on stop, 'q' is sent so the engine can finish cleanly (stops processing PCM, then writes the DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>Recording…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>Recording session: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>Error: cannot start the engine (recording) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>No recording is running</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>Sent 'q' to the engine — waiting for it to finish cleanly (writes the DSF, then exits)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>The recording engine is no longer running</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>The engine did not finish within 12 s (this run is in-process, so it cannot be force-terminated)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>The engine did not exit within 12 s; killing it</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>Recording saved: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>Recording failed, exit code: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>Recording process exited abnormally (crashed/killed)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>Recording backend: available — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>Recording backend: unavailable — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>%1 input device(s) (listed in the log)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>Engine exit code = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>ZuvoEngine not found — place it next to the program, add it to PATH, or set ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>Probe did not respond within 30 s; terminated</translation>
     </message>
 </context>
 <context>
@@ -1306,7 +1446,7 @@ A preset only changes encoding/DSP parameters — output folder/format and tags 
     <message>
         <source>预设为 JSON 文件 (与 GTK 版同目录同键名, 可互读)
 写入目录: %1</source>
-        <translation>Presets are JSON files (same folder &amp; key names as the GTK version, interchangeable)
+        <translation>Presets are JSON files (same folder and key names as the GTK version, interchangeable)
 Write folder: %1</translation>
     </message>
     <message>
@@ -1410,7 +1550,14 @@ Write folder: %1</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">Cannot read file</translation>
+        <translation>Cannot read file</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>Reference Standards</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@ On: it is written under %1 and kept, so you can send it to the vendor for troubl
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>Source Licenses</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@ On: it is written under %1 and kept, so you can send it to the vendor for troubl
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Checking for updates…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Check for Updates</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>You are up to date (%1). The latest version on the server is %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>Update check failed:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1 is available (you have %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Release date: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Release notes: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>New Version Available</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Download and Update</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Download Page</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>Later</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloading update…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Download Update</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Update</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>The program will now exit.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Update Failed</translation>
     </message>
 </context>
 <context>

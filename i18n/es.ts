@@ -137,115 +137,115 @@ Completado: %1 OK, %2 con error</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: el motor informó que terminó, pero no se escribió el archivo de salida: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: el motor informó que terminó, pero el archivo de salida %2 no se escribió (sigue siendo el anterior)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está vacío</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: el motor informó que terminó, pero el archivo de salida no se puede leer (%2); eliminado: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: el motor informó que terminó, pero el archivo de salida no se puede leer (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(línea demasiado larga; no se muestran los %1 caracteres restantes)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo DSF</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>La longitud del archivo en la cabecera DSF no coincide con la real (archivo incompleto)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque de formato DSF no válido</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque de datos DSF no válido</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de metadatos DSF no válida</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo DSDIFF</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>La longitud en la cabecera DSDIFF no coincide con la real (archivo incompleto)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque DSDIFF fuera de los límites del archivo</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el bloque FVER/PROP/sonido en DSDIFF</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo WAV</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque ds64 de RF64 no válido</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el bloque de formato en WAV</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque de datos WAV fuera de los límites del archivo (archivo incompleto)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque de formato WAV no válido</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el bloque de datos en WAV</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo W64</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque W64 fuera de los límites del archivo (archivo incompleto)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el bloque de formato en W64</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el bloque de datos en W64</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo FLAC</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta STREAMINFO en FLAC</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@ El modo cuadrafónico requiere restablecer el número de canales a 4; al marcarl
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste AUTORUN: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ No se puede usar el preajuste AUTORUN: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: el archivo indicado en ZUVO_AI_PLAYTEST no existe: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de dispositivo que se pasa tal cual a ZuvoPlayer -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo DAC:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducción en streaming (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente de reproducción = «Archivo de salida» de arriba (como en la versión GTK: reproduce el DSF/DFF recién convertido)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener reproducción</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay una reproducción en curso; deténgala primero</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: el archivo a reproducir no existe o no se puede leer: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(archivo de salida no establecido)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: no se encontró ZuvoPlayer — colóquelo en la carpeta del programa o añádalo al PATH (o defina ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando el reproductor: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduciendo: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión de escucha: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">en proceso (llamada directa a la biblioteca)</translation>
+        <translation>en proceso (llamada directa a la biblioteca)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>subproceso</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: no se puede iniciar el reproductor — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducción terminada</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducción detenida</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El reproductor terminó de forma anómala, código: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna reproducción en curso</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deteniendo el reproductor…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[control] %1</translation>
+        <translation>[control] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>El reproductor no terminó en %1 s (esta vez se ejecuta en proceso; no se puede forzar su cierre)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>El reproductor no terminó en %1 s; forzando el cierre</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Sigue sin responder; forzando el cierre del reproductor</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>Acerca de / Diagnóstico…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>Ver versión del motor / listar dispositivos de audio / mostrar ayuda del motor</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>Licencias del código fuente…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>Normas de referencia…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>Error: ZUVO_AI_RECTEST necesita una ruta de salida .dsf</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(el motor no produjo salida)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+Código de salida = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>El motor de esta compilación no tiene backend de grabación (ver la línea de estado de la pestaña Grabación): no se puede grabar</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>Ya hay una grabación en curso</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>Primero defina la ruta de la grabación en «Archivo de salida» arriba</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>El archivo de salida de la grabación debe ser .dsf</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>Error: no se encontró ZuvoEngine (la grabación requiere soporte de grabación en el motor)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>Comando de grabación: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>Grabación iniciada → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>Consejo: al detener se envía 'q' para que el motor termine limpiamente (deja de procesar PCM y luego escribe el DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>Grabando…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>Sesión de grabación: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>Error: no se puede iniciar el motor (grabación) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>No hay ninguna grabación en curso</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>'q' enviado al motor — esperando un cierre limpio (escribe el DSF y sale)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>El motor de grabación ya no está en ejecución</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>El motor no terminó en 12 s (esta ejecución es dentro del proceso; no se puede forzar el cierre)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>El motor no salió en 12 s; forzando la terminación</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>Grabación guardada: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>Error en la grabación, código de salida: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>El proceso de grabación terminó de forma anormal (fallo/finalizado)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>Backend de grabación: disponible — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>Backend de grabación: no disponible — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>Dispositivos de entrada: %1 (listados en el registro)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>Código de salida del motor = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>No se encontró ZuvoEngine — colóquelo en la carpeta del programa, añádalo al PATH o defina ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>La detección no respondió en 30 s; se terminó</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@ Carpeta de escritura: %1</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">No se puede leer el archivo</translation>
+        <translation>No se puede leer el archivo</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>Normas de referencia</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@ Activado: se escribe en %1 y se conserva, para poder enviarlo al fabricante y di
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>Licencias del código fuente</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@ Activado: se escribe en %1 y se conserva, para poder enviarlo al fabricante y di
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando actualizaciones…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya tiene la última versión (%1). La última versión en el servidor es %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al buscar actualizaciones:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una nueva versión %1 (actual: %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de publicación: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas de la versión: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva versión disponible</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar y actualizar</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir página de descarga</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>Más tarde</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando la actualización…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar actualización</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualización</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa se cerrará ahora.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de actualización</translation>
     </message>
 </context>
 <context>

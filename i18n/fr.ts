@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>✗ %1 异常退出 (崩溃/被终止)</source>
-        <translation>✗ %1 s&apos;est terminé anormalement (plantage/arrêt forcé)</translation>
+        <translation>✗ %1 s'est terminé anormalement (plantage/arrêt forcé)</translation>
     </message>
     <message>
         <source>✗ 退出码: %1</source>
@@ -125,11 +125,11 @@ Terminé : %1 OK, %2 en échec</translation>
     </message>
     <message>
         <source>正在通知引擎停止…</source>
-        <translation>Demande d&apos;arrêt envoyée au moteur…</translation>
+        <translation>Demande d'arrêt envoyée au moteur…</translation>
     </message>
     <message>
         <source>引擎 2 秒内没有确认停止 —— 仍在收尾(可再点一次, 或关闭程序)。</source>
-        <translation>Le moteur n&apos;a pas confirmé l&apos;arrêt en 2 secondes — finalisation en cours (cliquez à nouveau ou fermez le programme).</translation>
+        <translation>Le moteur n'a pas confirmé l'arrêt en 2 secondes — finalisation en cours (cliquez à nouveau ou fermez le programme).</translation>
     </message>
     <message>
         <source>[控制] %1</source>
@@ -137,122 +137,122 @@ Terminé : %1 OK, %2 en échec</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1 : le moteur signale la fin, mais aucun fichier de sortie n'a été écrit : %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1 : le moteur signale la fin, mais le fichier de sortie %2 n'a pas été écrit (c'est toujours l'ancien)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est vide</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1 : le moteur signale la fin, mais le fichier de sortie est illisible (%2), supprimé : %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1 : le moteur signale la fin, mais le fichier de sortie est illisible (%2) : %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(ligne trop longue, %1 caractères suivants non affichés)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un fichier DSF</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille du fichier indiquée dans l'en-tête DSF ne correspond pas à la taille réelle (fichier incomplet)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc de format DSF invalide</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc de données DSF invalide</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Position des métadonnées DSF invalide</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un fichier DSDIFF</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>La longueur indiquée dans l'en-tête DSDIFF ne correspond pas à la réalité (fichier incomplet)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc DSDIFF au-delà de la fin du fichier</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF : bloc FVER/PROP/son manquant</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un fichier WAV</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc ds64 du RF64 invalide</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV : bloc de format manquant</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc de données WAV au-delà de la fin du fichier (fichier incomplet)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc de format WAV invalide</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV : bloc de données manquant</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un fichier W64</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc W64 au-delà de la fin du fichier (fichier incomplet)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 : bloc de format manquant</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 : bloc de données manquant</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un fichier FLAC</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC : STREAMINFO manquant</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d'ouvrir</translation>
     </message>
 </context>
 <context>
     <name>EngineSession</name>
     <message>
         <source>进程内会话起不来 (rc=%1)</source>
-        <translation>la session dans le processus n&apos;a pas pu démarrer (rc=%1)</translation>
+        <translation>la session dans le processus n'a pas pu démarrer (rc=%1)</translation>
     </message>
 </context>
 <context>
@@ -298,7 +298,7 @@ Terminé : %1 OK, %2 en échec</translation>
     </message>
     <message>
         <source>留空 = 用上面的输出文件; 填了就按命名模板给每个输入算输出文件名</source>
-        <translation>Vide = utiliser le fichier de sortie ci-dessus ; sinon, le nom de sortie de chaque entrée est calculé d&apos;après le modèle de nom</translation>
+        <translation>Vide = utiliser le fichier de sortie ci-dessus ; sinon, le nom de sortie de chaque entrée est calculé d'après le modèle de nom</translation>
     </message>
     <message>
         <source>批量输出: 所有输入写进这个目录, 文件名由下面的命名模板算</source>
@@ -314,13 +314,13 @@ Terminé : %1 OK, %2 en échec</translation>
     </message>
     <message>
         <source>输出目录模式下每个文件的扩展名 (引擎按扩展名认格式)</source>
-        <translation>Extension des fichiers en mode dossier de sortie (le moteur reconnaît le format à l&apos;extension)</translation>
+        <translation>Extension des fichiers en mode dossier de sortie (le moteur reconnaît le format à l'extension)</translation>
     </message>
     <message>
         <source>变量: {input} 输入文件名  {ext} 输出格式  {track} / {track:02} 队列序号  {artist} {title} 界面字段
 留空 = {input}; 变量没有值时回退用输入文件名; 模板里可以带子目录</source>
-        <translation>Variables : {input} nom du fichier d&apos;entrée  {ext} format de sortie  {track} / {track:02} rang dans la file  {artist} {title} champs de l&apos;interface
-Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d&apos;entrée ; le modèle peut contenir des sous-dossiers</translation>
+        <translation>Variables : {input} nom du fichier d'entrée  {ext} format de sortie  {track} / {track:02} rang dans la file  {artist} {title} champs de l'interface
+Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d'entrée ; le modèle peut contenir des sous-dossiers</translation>
     </message>
     <message>
         <source>输出格式:</source>
@@ -336,7 +336,7 @@ Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d
     </message>
     <message>
         <source>0 = 不写曲目号 (引擎只接受 1..998)</source>
-        <translation>0 = pas de numéro de piste (le moteur n&apos;accepte que 1..998)</translation>
+        <translation>0 = pas de numéro de piste (le moteur n'accepte que 1..998)</translation>
     </message>
     <message>
         <source>写入标签的说明文字</source>
@@ -344,7 +344,7 @@ Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d
     </message>
     <message>
         <source>从输入文件读取标签</source>
-        <translation>Lire les tags du fichier d&apos;entrée</translation>
+        <translation>Lire les tags du fichier d'entrée</translation>
     </message>
     <message>
         <source>艺术家:</source>
@@ -384,7 +384,7 @@ Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d
     </message>
     <message>
         <source>选择输入文件</source>
-        <translation>Choisir les fichiers d&apos;entrée</translation>
+        <translation>Choisir les fichiers d'entrée</translation>
     </message>
     <message>
         <source>选择目录</source>
@@ -416,7 +416,7 @@ Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d
     </message>
     <message>
         <source>波形/频谱预览…</source>
-        <translation>Aperçu forme d&apos;onde/spectrogramme…</translation>
+        <translation>Aperçu forme d'onde/spectrogramme…</translation>
     </message>
     <message>
         <source>逐轨预设…</source>
@@ -426,7 +426,7 @@ Vide = {input} ; une variable sans valeur est remplacée par le nom du fichier d
         <source>给队列里每个文件单独指定一套预设
 预设只换编码/DSP 参数; 输出目录/输出格式与标签仍按面板</source>
         <translation>Attribuer un préréglage propre à chaque fichier de la file
-Un préréglage ne change que les paramètres d&apos;encodage/DSP ; dossier/format de sortie et tags restent ceux du panneau</translation>
+Un préréglage ne change que les paramètres d'encodage/DSP ; dossier/format de sortie et tags restent ceux du panneau</translation>
     </message>
 </context>
 <context>
@@ -509,7 +509,7 @@ Un préréglage ne change que les paramètres d&apos;encodage/DSP ; dossier/form
     </message>
     <message>
         <source>DXD 输出只支持 .wav / .w64 / .flac (引擎按扩展名认容器)</source>
-        <translation>La sortie DXD ne prend en charge que .wav / .w64 / .flac (le moteur reconnaît le conteneur à l&apos;extension)</translation>
+        <translation>La sortie DXD ne prend en charge que .wav / .w64 / .flac (le moteur reconnaît le conteneur à l'extension)</translation>
     </message>
     <message>
         <source>错误</source>
@@ -519,7 +519,7 @@ Un préréglage ne change que les paramètres d&apos;encodage/DSP ; dossier/form
         <source>错误: DST 压缩仅支持 DFF 格式输出
 请把输出格式/扩展名改为 .dff 或禁用 DST 压缩</source>
         <translation>Erreur : la compression DST ne prend en charge que la sortie DFF
-Passez le format/l&apos;extension de sortie en .dff ou désactivez la compression DST</translation>
+Passez le format/l'extension de sortie en .dff ou désactivez la compression DST</translation>
     </message>
     <message>
         <source>输出文件必须是 .dsf 或 .dff 格式</source>
@@ -531,15 +531,15 @@ Passez le format/l&apos;extension de sortie en .dff ou désactivez la compressio
     </message>
     <message>
         <source>已有转换任务正在进行中, 请等待完成。</source>
-        <translation>Une conversion est déjà en cours, veuillez attendre qu&apos;elle se termine.</translation>
+        <translation>Une conversion est déjà en cours, veuillez attendre qu'elle se termine.</translation>
     </message>
     <message>
         <source>输入文件</source>
-        <translation>Fichiers d&apos;entrée</translation>
+        <translation>Fichiers d'entrée</translation>
     </message>
     <message>
         <source>请选择输入文件</source>
-        <translation>Veuillez choisir des fichiers d&apos;entrée</translation>
+        <translation>Veuillez choisir des fichiers d'entrée</translation>
     </message>
     <message>
         <source>元数据</source>
@@ -592,8 +592,8 @@ Passez le format/l&apos;extension de sortie en .dff ou désactivez la compressio
     <message>
         <source>噪声本底分析需要勾选 PDF 报告才能生效
 请启用「PDF 报告」开关</source>
-        <translation>L&apos;analyse du bruit de fond ne fonctionne qu&apos;avec le rapport PDF
-Veuillez activer l&apos;option « Rapport PDF »</translation>
+        <translation>L'analyse du bruit de fond ne fonctionne qu'avec le rapport PDF
+Veuillez activer l'option « Rapport PDF »</translation>
     </message>
     <message>
         <source>均衡器</source>
@@ -602,8 +602,8 @@ Veuillez activer l&apos;option « Rapport PDF »</translation>
     <message>
         <source>启用了均衡器但没有有效频段
 请添加至少一个频段 (中心频率 &gt; 0), 或禁用均衡器</source>
-        <translation>L&apos;égaliseur est activé mais ne contient aucune bande valide
-Ajoutez au moins une bande (fréquence centrale &gt; 0) ou désactivez l&apos;égaliseur</translation>
+        <translation>L'égaliseur est activé mais ne contient aucune bande valide
+Ajoutez au moins une bande (fréquence centrale &gt; 0) ou désactivez l'égaliseur</translation>
     </message>
     <message>
         <source>引擎缺失</source>
@@ -613,7 +613,7 @@ Ajoutez au moins une bande (fréquence centrale &gt; 0) ou désactivez l&apos;é
         <source>未找到 ZuvoEngine。请将其放在程序同目录、或加入 PATH,
 也可设置环境变量 ZUVO_ENGINE_BIN 指向其完整路径。</source>
         <translation>ZuvoEngine introuvable. Placez-le dans le dossier du programme ou ajoutez-le au PATH,
-ou définissez la variable d&apos;environnement ZUVO_ENGINE_BIN avec son chemin complet.</translation>
+ou définissez la variable d'environnement ZUVO_ENGINE_BIN avec son chemin complet.</translation>
     </message>
     <message>
         <source>均衡器未启用</source>
@@ -677,7 +677,7 @@ Le fichier de sortie passera automatiquement en DFF</translation>
     </message>
     <message>
         <source>注意: 无法向引擎查询它不支持的选项, 直接开始转换</source>
-        <translation>Remarque : impossible de demander au moteur les options qu&apos;il ne prend pas en charge, la conversion démarre directement</translation>
+        <translation>Remarque : impossible de demander au moteur les options qu'il ne prend pas en charge, la conversion démarre directement</translation>
     </message>
     <message>
         <source>转换未开始: 当前引擎构建不支持这些已选择的选项: %1</source>
@@ -707,7 +707,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     </message>
     <message>
         <source>请先添加输入文件</source>
-        <translation>Ajoutez d&apos;abord des fichiers d&apos;entrée</translation>
+        <translation>Ajoutez d'abord des fichiers d'entrée</translation>
     </message>
     <message>
         <source>逐轨预设: 已全部改回「用当前参数」</source>
@@ -723,7 +723,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     </message>
     <message>
         <source>请先添加文件</source>
-        <translation>Ajoutez d&apos;abord des fichiers</translation>
+        <translation>Ajoutez d'abord des fichiers</translation>
     </message>
     <message>
         <source>没有可预览的文件</source>
@@ -759,7 +759,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     </message>
     <message>
         <source>DSD 采样率:</source>
-        <translation>Fréquence d&apos;échantillonnage DSD :</translation>
+        <translation>Fréquence d'échantillonnage DSD :</translation>
     </message>
     <message>
         <source>Taps 数 (0=引擎默认):</source>
@@ -767,7 +767,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     </message>
     <message>
         <source>SOS cascade + error feedback, NS15 profile (引擎默认): 实测带内噪声比单环 NS9 低 11.4 dB</source>
-        <translation>Cascade SOS + rétroaction d&apos;erreur, profil NS15 (défaut du moteur) : bruit dans la bande mesuré 11,4 dB plus bas qu&apos;en boucle simple NS9</translation>
+        <translation>Cascade SOS + rétroaction d'erreur, profil NS15 (défaut du moteur) : bruit dans la bande mesuré 11,4 dB plus bas qu'en boucle simple NS9</translation>
     </message>
     <message>
         <source>Chebyshev 多项式压缩 (可与 MASH 叠加)</source>
@@ -815,7 +815,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     </message>
     <message>
         <source>当前引擎构建未编译 OpenCL 支持</source>
-        <translation>Cette version du moteur a été compilée sans prise en charge d&apos;OpenCL</translation>
+        <translation>Cette version du moteur a été compilée sans prise en charge d'OpenCL</translation>
     </message>
     <message>
         <source>添加 PDF 报告</source>
@@ -827,7 +827,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     </message>
     <message>
         <source>分析报告 (--report)</source>
-        <translation>Rapport d&apos;analyse (--report)</translation>
+        <translation>Rapport d'analyse (--report)</translation>
     </message>
     <message>
         <source>噪声本底分析 (需 PDF 报告)</source>
@@ -880,7 +880,7 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
     <message>
         <source>噪声本底分析需要勾选 PDF 报告才能生效
 请启用「添加 PDF 报告」</source>
-        <translation>L&apos;analyse du bruit de fond ne fonctionne qu&apos;avec le rapport PDF
+        <translation>L'analyse du bruit de fond ne fonctionne qu'avec le rapport PDF
 Veuillez activer « Ajouter un rapport PDF »</translation>
     </message>
     <message>
@@ -889,7 +889,7 @@ Veuillez activer « Ajouter un rapport PDF »</translation>
     </message>
     <message>
         <source>强制原始声道数</source>
-        <translation>Forcer le nombre de canaux d&apos;origine</translation>
+        <translation>Forcer le nombre de canaux d'origine</translation>
     </message>
     <message>
         <source>四声道模式 (需重置声道数=4)</source>
@@ -917,7 +917,7 @@ Veuillez activer « Ajouter un rapport PDF »</translation>
 四声道模式需要重置声道数为 4; 勾选时会自动设为 4。
 
 「声道交换」交换前两个声道, 与其它选项可同时使用。</source>
-        <translation>« Forcer le nombre de canaux d&apos;origine » est prioritaire : s&apos;il est coché, la redéfinition du nombre de canaux, le mode quadriphonique et l&apos;ajout de canaux surround ne sont pas transmis au moteur.
+        <translation>« Forcer le nombre de canaux d'origine » est prioritaire : s'il est coché, la redéfinition du nombre de canaux, le mode quadriphonique et l'ajout de canaux surround ne sont pas transmis au moteur.
 
 Le mode quadriphonique exige un nombre de canaux redéfini à 4 ; il est réglé à 4 automatiquement quand on le coche.
 
@@ -929,7 +929,7 @@ Le mode quadriphonique exige un nombre de canaux redéfini à 4 ; il est réglé
     </message>
     <message>
         <source>启用均衡器 (EQ)</source>
-        <translation>Activer l&apos;égaliseur (EQ)</translation>
+        <translation>Activer l'égaliseur (EQ)</translation>
     </message>
     <message>
         <source>添加频段</source>
@@ -1001,7 +1001,7 @@ Le mode quadriphonique exige un nombre de canaux redéfini à 4 ; il est réglé
     </message>
     <message>
         <source>Remez 算法参数</source>
-        <translation>Paramètres de l&apos;algorithme de Remez</translation>
+        <translation>Paramètres de l'algorithme de Remez</translation>
     </message>
     <message>
         <source>最大迭代次数:</source>
@@ -1049,7 +1049,7 @@ Le mode quadriphonique exige un nombre de canaux redéfini à 4 ; il est réglé
     </message>
     <message>
         <source>启用 HRTF 空间音频 (--hrtf)</source>
-        <translation>Activer l&apos;audio spatial HRTF (--hrtf)</translation>
+        <translation>Activer l'audio spatial HRTF (--hrtf)</translation>
     </message>
     <message>
         <source>启用 HRTF 空间音频 (--hrtf &lt;mono|ms|stereo&gt;)</source>
@@ -1145,119 +1145,259 @@ Le mode quadriphonique exige un nombre de canaux redéfini à 4 ; il est réglé
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglage AUTORUN : %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Préréglage AUTORUN inutilisable : %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur : le fichier indiqué par ZUVO_AI_PLAYTEST n'existe pas : %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de périphérique transmis tel quel à ZuvoPlayer -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>Périphérique DAC :</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture en streaming (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Source de lecture = « Fichier de sortie » ci-dessus (comme la version GTK : lit le DSF/DFF qui vient d'être converti)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la lecture</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture déjà en cours, arrêtez-la d'abord</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur : fichier à lire absent ou illisible : %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aucun fichier de sortie défini)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur : ZuvoPlayer introuvable — placez-le dans le dossier du programme ou ajoutez-le au PATH (ou définissez ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage du lecteur : %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture : %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Session d'écoute : %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">dans le processus (appel direct de la bibliothèque)</translation>
+        <translation>dans le processus (appel direct de la bibliothèque)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>sous-processus</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur : impossible de démarrer le lecteur — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture terminée</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture arrêtée</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lecteur s'est terminé anormalement, code : %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune lecture en cours</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt du lecteur…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[contrôle] %1</translation>
+        <translation>[contrôle] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lecteur n'a pas terminé en %1 s (il s'exécute cette fois dans le processus, arrêt forcé impossible)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lecteur n'a pas terminé en %1 s, arrêt forcé</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours aucune réponse, arrêt forcé du lecteur</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>À propos / Diagnostic…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>Afficher la version du moteur / lister les périphériques audio / afficher l'aide du moteur</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>Licences des sources…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>Normes de référence…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>Erreur : ZUVO_AI_RECTEST nécessite un chemin de sortie .dsf</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(le moteur n'a rien produit)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+Code de sortie = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>Le moteur de cette version n'a pas de backend d'enregistrement (voir la ligne d'état de l'onglet Enregistrement) : impossible d'enregistrer</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>Enregistrement déjà en cours</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>Définissez d'abord le chemin de l'enregistrement dans « Fichier de sortie » ci-dessus</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>Le fichier de sortie de l'enregistrement doit être au format .dsf</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>Erreur : ZuvoEngine introuvable (l'enregistrement nécessite la prise en charge de l'enregistrement par le moteur)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>Commande d'enregistrement : %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>Enregistrement démarré → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>Astuce : à l'arrêt, 'q' est envoyé pour que le moteur termine proprement (arrêt du traitement PCM, puis écriture du DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>Enregistrement…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>Session d'enregistrement : %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>Erreur : impossible de démarrer le moteur (enregistrement) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>Aucun enregistrement en cours</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>'q' envoyé au moteur — attente d'une fin propre (écriture du DSF, puis sortie)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>Le moteur d'enregistrement ne tourne plus</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>Le moteur n'a pas terminé en 12 s (exécution dans le processus, arrêt forcé impossible)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>Le moteur ne s'est pas arrêté en 12 s, arrêt forcé</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>Enregistrement sauvegardé : %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>Échec de l'enregistrement, code de sortie : %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>Le processus d'enregistrement s'est terminé anormalement (plantage/arrêt forcé)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>Backend d'enregistrement : disponible — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>Backend d'enregistrement : indisponible — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>Périphériques d'entrée : %1 (listés dans le journal)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>Code de sortie du moteur = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>ZuvoEngine introuvable — placez-le dans le dossier du programme, ajoutez-le au PATH ou définissez ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>Détection sans réponse pendant 30 s, arrêtée</translation>
     </message>
 </context>
 <context>
@@ -1270,7 +1410,7 @@ Le mode quadriphonique exige un nombre de canaux redéfini à 4 ; il est réglé
         <source>每行给一个文件挑一套预设; 「(用当前参数)」= 跟随主面板。
 预设只换编码/DSP 参数 —— 输出目录/输出格式与标签仍按主面板。</source>
         <translation>Choisissez un préréglage par ligne pour chaque fichier ; « (utiliser les paramètres actuels) » = suivre le panneau principal.
-Un préréglage ne change que les paramètres d&apos;encodage/DSP — dossier/format de sortie et tags restent ceux du panneau principal.</translation>
+Un préréglage ne change que les paramètres d'encodage/DSP — dossier/format de sortie et tags restent ceux du panneau principal.</translation>
     </message>
     <message>
         <source>文件</source>
@@ -1286,7 +1426,7 @@ Un préréglage ne change que les paramètres d&apos;encodage/DSP — dossier/fo
     </message>
     <message>
         <source>(预设目录里没有预设 —— 先在上面「母带预设」里保存一套)</source>
-        <translation>(aucun préréglage dans le dossier — enregistrez-en d&apos;abord un via « Préréglages de mastering » ci-dessus)</translation>
+        <translation>(aucun préréglage dans le dossier — enregistrez-en d'abord un via « Préréglages de mastering » ci-dessus)</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1306,8 +1446,8 @@ Un préréglage ne change que les paramètres d&apos;encodage/DSP — dossier/fo
     <message>
         <source>预设为 JSON 文件 (与 GTK 版同目录同键名, 可互读)
 写入目录: %1</source>
-        <translation>Les préréglages sont des fichiers JSON (même dossier et mêmes clés que la version GTK, lisibles de part et d&apos;autre)
-Dossier d&apos;écriture : %1</translation>
+        <translation>Les préréglages sont des fichiers JSON (même dossier et mêmes clés que la version GTK, lisibles de part et d'autre)
+Dossier d'écriture : %1</translation>
     </message>
     <message>
         <source>加载选中</source>
@@ -1319,7 +1459,7 @@ Dossier d&apos;écriture : %1</translation>
     </message>
     <message>
         <source>保存当前为…</source>
-        <translation>Enregistrer l&apos;actuel sous…</translation>
+        <translation>Enregistrer l'actuel sous…</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -1335,7 +1475,7 @@ Dossier d&apos;écriture : %1</translation>
     </message>
     <message>
         <source>预设文件解析失败: %1</source>
-        <translation>Échec de l&apos;analyse du fichier de préréglage : %1</translation>
+        <translation>Échec de l'analyse du fichier de préréglage : %1</translation>
     </message>
     <message>
         <source>预设含 %1 个本版未支持字段, 已忽略</source>
@@ -1367,7 +1507,7 @@ Dossier d&apos;écriture : %1</translation>
     </message>
     <message>
         <source>预设 %1 已存在, 覆盖?</source>
-        <translation>Le préréglage %1 existe déjà. L&apos;écraser ?</translation>
+        <translation>Le préréglage %1 existe déjà. L'écraser ?</translation>
     </message>
     <message>
         <source>预设名称无效: %1</source>
@@ -1375,7 +1515,7 @@ Dossier d&apos;écriture : %1</translation>
     </message>
     <message>
         <source>保存失败: %1</source>
-        <translation>Échec de l&apos;enregistrement : %1</translation>
+        <translation>Échec de l'enregistrement : %1</translation>
     </message>
     <message>
         <source>已保存预设: %1</source>
@@ -1406,11 +1546,18 @@ Dossier d&apos;écriture : %1</translation>
     </message>
     <message>
         <source>顶层不是 JSON 对象</source>
-        <translation>Le niveau supérieur n&apos;est pas un objet JSON</translation>
+        <translation>Le niveau supérieur n'est pas un objet JSON</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">Impossible de lire le fichier</translation>
+        <translation>Impossible de lire le fichier</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>Normes de référence</translation>
     </message>
 </context>
 <context>
@@ -1439,7 +1586,7 @@ Dossier d&apos;écriture : %1</translation>
         <source>关（默认）：引擎日志写在系统临时目录里的一次性目录中，退出即清；
 开：写到 %1 下并保留，便于把日志发给厂商排障。</source>
         <translation>Désactivé (par défaut) : le journal du moteur est écrit dans un dossier jetable du répertoire temporaire du système et effacé à la fermeture ;
-Activé : il est écrit sous %1 et conservé, pour pouvoir l&apos;envoyer à l&apos;éditeur en cas de problème.</translation>
+Activé : il est écrit sous %1 et conservé, pour pouvoir l'envoyer à l'éditeur en cas de problème.</translation>
     </message>
     <message>
         <source>子进程: ZuvoEngine</source>
@@ -1447,7 +1594,14 @@ Activé : il est écrit sous %1 et conservé, pour pouvoir l&apos;envoyer à l&a
     </message>
     <message>
         <source>GUI 通过 QProcess 调用同目录/环境变量指定的 ZuvoEngine</source>
-        <translation>L&apos;interface appelle via QProcess le ZuvoEngine du dossier du programme ou indiqué par la variable d&apos;environnement</translation>
+        <translation>L'interface appelle via QProcess le ZuvoEngine du dossier du programme ou indiqué par la variable d'environnement</translation>
+    </message>
+</context>
+<context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>Licences des sources</translation>
     </message>
 </context>
 <context>
@@ -1458,7 +1612,7 @@ Activé : il est écrit sous %1 et conservé, pour pouvoir l&apos;envoyer à l&a
     </message>
     <message>
         <source>界面语言。切换后程序会重启一次以便整套界面换语言。</source>
-        <translation>Langue de l&apos;interface. Après le changement, le programme redémarre une fois pour basculer toute l&apos;interface.</translation>
+        <translation>Langue de l'interface. Après le changement, le programme redémarre une fois pour basculer toute l'interface.</translation>
     </message>
     <message>
         <source>跟随系统</source>
@@ -1466,74 +1620,74 @@ Activé : il est écrit sous %1 et conservé, pour pouvoir l&apos;envoyer à l&a
     </message>
     <message>
         <source>界面语言已切换，程序将自动重启一次以生效。</source>
-        <translation>Langue de l&apos;interface modifiée. Le programme va redémarrer une fois pour l&apos;appliquer.</translation>
+        <translation>Langue de l'interface modifiée. Le programme va redémarrer une fois pour l'appliquer.</translation>
     </message>
 </context>
 <context>
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de mises à jour…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous avez la dernière version (%1). La dernière version sur le serveur est %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la recherche de mises à jour :</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle version %1 disponible (version actuelle : %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de publication : %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes de version : %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle version disponible</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger et mettre à jour</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la page de téléchargement</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de la mise à jour…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de la mise à jour</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme va maintenant se fermer.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la mise à jour</translation>
     </message>
 </context>
 <context>
@@ -1544,7 +1698,7 @@ Activé : il est écrit sous %1 et conservé, pour pouvoir l&apos;envoyer à l&a
     </message>
     <message>
         <source>波形</source>
-        <translation>Forme d&apos;onde</translation>
+        <translation>Forme d'onde</translation>
     </message>
     <message>
         <source>频谱</source>
@@ -1560,7 +1714,7 @@ Activé : il est écrit sous %1 et conservé, pour pouvoir l&apos;envoyer à l&a
     </message>
     <message>
         <source>该格式 (%1) 预览待后续 — 目前仅支持 WAV (DSD 解码属后续里程碑)</source>
-        <translation>L&apos;aperçu de ce format (%1) viendra plus tard — seul le WAV est pris en charge pour l&apos;instant (le décodage DSD est prévu pour une étape ultérieure)</translation>
+        <translation>L'aperçu de ce format (%1) viendra plus tard — seul le WAV est pris en charge pour l'instant (le décodage DSD est prévu pour une étape ultérieure)</translation>
     </message>
     <message>
         <source>解码失败: %1</source>

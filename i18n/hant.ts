@@ -137,115 +137,115 @@
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 引擎回報已完成, 但未寫出輸出檔案 %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 引擎回報已完成, 但輸出檔案 %2 未被寫入 (仍是舊檔)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案是空的</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 引擎回報已完成, 但無法讀取輸出檔案 (%2), 已刪除: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 引擎回報已完成, 但無法讀取輸出檔案 (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(此行過長, 後面 %1 個字元未顯示)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>不是 DSF 檔案</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 標頭中的檔案長度與實際不符 (檔案不完整)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 格式區塊錯誤</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 資料區塊錯誤</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 中繼資料位置錯誤</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>不是 DSDIFF 檔案</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF 標頭中的長度與實際不符 (檔案不完整)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF 區塊超出檔案範圍</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF 缺少 FVER/PROP/聲音區塊</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>不是 WAV 檔案</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>RF64 的 ds64 區塊錯誤</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 缺少格式區塊</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 資料區塊超出檔案範圍 (檔案不完整)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 格式區塊錯誤</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 缺少資料區塊</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>不是 W64 檔案</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 區塊超出檔案範圍 (檔案不完整)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 缺少格式區塊</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 缺少資料區塊</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>不是 FLAC 檔案</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC 缺少 STREAMINFO</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>播放</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN 預設集: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ AUTORUN 預設集無法使用: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>錯誤: ZUVO_AI_PLAYTEST 指定的檔案不存在: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置名稱直接傳給 ZuvoPlayer -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>DAC 裝置:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>串流播放模式 (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>播放來源 = 上方「輸出檔案」 (與 GTK 版相同: 播放剛轉換的 DSF/DFF)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>停止播放</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>正在播放中, 請先停止目前的播放</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>錯誤: 播放檔案不存在或無法讀取: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(未設定輸出檔案)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>錯誤: 找不到 ZuvoPlayer — 請放在程式所在資料夾或加入 PATH (或設定 ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>啟動播放器: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>開始播放: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>試聽工作階段: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">處理程序內(直接呼叫函式庫)</translation>
+        <translation>處理程序內(直接呼叫函式庫)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>子處理程序</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>錯誤: 無法啟動播放器 — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>播放完成</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>播放已停止</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>播放器異常結束, 代碼: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>目前沒有播放工作</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在停止播放器…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[控制] %1</translation>
+        <translation>[控制] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>播放器未在 %1 秒內完成收尾 (本次在處理程序內執行, 無法強制結束)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>播放器未在 %1 秒內完成收尾, 強制結束</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>仍無回應, 強制結束播放器</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查更新…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>關於/診斷…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>檢視引擎版本 / 列出音訊裝置 / 顯示引擎說明</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>原始碼授權…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>參考標準…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>錯誤: ZUVO_AI_RECTEST 需要指定一個輸出 .dsf 路徑</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(引擎沒有輸出)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+結束代碼 = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>此版本的引擎沒有錄音後端 (見錄音頁的狀態列): 無法開始錄音</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>錄音正在進行中</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>錄音</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>請先在上方「輸出檔案」設定錄音儲存路徑</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>錄音輸出檔案必須是 .dsf 格式</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>錯誤: 找不到 ZuvoEngine (錄音需要引擎的錄音支援)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>錄音指令: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>開始錄音 → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>提示: 停止時會傳送 'q' 讓引擎正常收尾 (先停止處理 PCM 再寫入 DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>錄音中…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>錄音工作階段: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>錯誤: 無法啟動引擎 (錄音) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>目前沒有錄音工作</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>已傳送 'q' 至引擎 — 等待正常收尾 (寫入 DSF 後自動結束)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>錄音引擎已不在執行</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>引擎未在 12 s 內收尾 (本次在處理程序內執行, 無法強制結束)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>引擎未在 12 s 內結束, 強制終止</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>錄音已儲存: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>錄音失敗, 結束代碼: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>錄音處理程序異常結束 (當機/被終止)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>錄音後端: 可用 — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>錄音後端: 無法使用 — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>%1 個輸入裝置 (已列在記錄中)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>引擎結束代碼 = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>找不到 ZuvoEngine — 請放在程式所在資料夾、加入 PATH, 或設定 ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>偵測 30 s 無回應, 已終止</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">無法讀取檔案</translation>
+        <translation>無法讀取檔案</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>參考標準</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>原始碼授權</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在檢查更新…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查更新</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>已是最新版本 (%1)。伺服器上的最新版本為 %2。</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查更新失敗：</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>發現新版本 %1（目前 %2）。</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>發行日期：%1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>更新說明：%1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>發現新版本</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>下載並更新</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟下載頁面</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>稍後</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在下載更新…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>下載更新</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>程式即將結束。</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>更新失敗</translation>
     </message>
 </context>
 <context>

@@ -137,115 +137,115 @@
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: エンジンは完了を報告しましたが、出力ファイル %2 が書き出されていません</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: エンジンは完了を報告しましたが、出力ファイル %2 は書き込まれていません (古いままです)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが空です</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: エンジンは完了を報告しましたが、出力ファイルを読み込めないため削除しました (%2): %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: エンジンは完了を報告しましたが、出力ファイルを読み込めません (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(行が長すぎるため、残りの %1 文字は表示されていません)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF ファイルではありません</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF ヘッダーのファイルサイズが実際と一致しません (ファイルが不完全です)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF のフォーマットチャンクが不正です</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF のデータチャンクが不正です</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF のメタデータ位置が不正です</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF ファイルではありません</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF ヘッダーのサイズが実際と一致しません (ファイルが不完全です)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF のチャンクがファイルの範囲を超えています</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF に FVER/PROP/サウンドチャンクがありません</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV ファイルではありません</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>RF64 の ds64 チャンクが不正です</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV にフォーマットチャンクがありません</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV のデータチャンクがファイルの範囲を超えています (ファイルが不完全です)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV のフォーマットチャンクが不正です</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV にデータチャンクがありません</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 ファイルではありません</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 のチャンクがファイルの範囲を超えています (ファイルが不完全です)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 にフォーマットチャンクがありません</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 にデータチャンクがありません</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC ファイルではありません</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC に STREAMINFO がありません</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>開けません</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>再生</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN プリセット: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ AUTORUN プリセットを使用できません: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー: ZUVO_AI_PLAYTEST で指定されたファイルが存在しません: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス名をそのまま ZuvoPlayer の -dev に渡します</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>DAC デバイス:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリーミング再生モード (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>再生ソース = 上の「出力ファイル」 (GTK 版と同じ: 変換したばかりの DSF/DFF を再生)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>再生を停止</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>再生中です。先に現在の再生を停止してください</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー: 再生するファイルが存在しないか、読み込めません: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(出力ファイルが未設定)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー: ZuvoPlayer が見つかりません — プログラムと同じフォルダーに置くか PATH に追加してください (または ZUVO_PLAYER_BIN を設定)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>プレーヤーを起動: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>再生開始: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>試聴セッション: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">プロセス内 (ライブラリを直接呼び出し)</translation>
+        <translation>プロセス内 (ライブラリを直接呼び出し)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>子プロセス</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー: プレーヤーを起動できません — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>再生が完了しました</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>再生を停止しました</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プレーヤーが異常終了しました。コード: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>再生中のタスクはありません</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>プレーヤーを停止しています…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[制御] %1</translation>
+        <translation>[制御] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>プレーヤーが %1 秒以内に終了処理を完了しませんでした (今回はプロセス内で実行中のため、強制終了できません)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>プレーヤーが %1 秒以内に終了処理を完了しなかったため、強制終了します</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ応答がないため、プレーヤーを強制終了します</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>バージョン情報/診断…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>エンジンのバージョン表示 / オーディオデバイス一覧 / エンジンのヘルプ表示</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>ソースライセンス…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>参考規格…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>エラー: ZUVO_AI_RECTEST には出力 .dsf のパスを指定する必要があります</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(エンジンの出力なし)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+終了コード = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>このビルドのエンジンには録音バックエンドがありません (録音タブのステータス行を参照): 録音を開始できません</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>録音はすでに進行中です</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>録音</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>先に上の「出力ファイル」で録音の保存先を設定してください</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>録音の出力ファイルは .dsf 形式である必要があります</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>エラー: ZuvoEngine が見つかりません (録音にはエンジンの録音機能が必要です)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>録音コマンド: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>録音開始 → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>ヒント: 停止時に 'q' を送信してエンジンを正常に終了させます (PCM の処理を止めてから DSF を書き込みます)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>録音中…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>録音セッション: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>エラー: エンジンを起動できません (録音) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>実行中の録音はありません</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>エンジンに 'q' を送信しました — 正常終了を待っています (DSF の書き込み後に自動終了)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>録音エンジンはすでに動作していません</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>エンジンが 12 s 以内に終了処理を完了しませんでした (今回はプロセス内で実行中のため強制終了できません)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>エンジンが 12 s 以内に終了しなかったため、強制終了します</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>録音を保存しました: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>録音に失敗しました。終了コード: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>録音プロセスが異常終了しました (クラッシュ/強制終了)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>録音バックエンド: 使用可能 — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>録音バックエンド: 使用不可 — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>入力デバイス %1 台 (ログに一覧表示)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>エンジン終了コード = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>ZuvoEngine が見つかりません — プログラムと同じフォルダーに置くか、PATH に追加するか、ZUVO_ENGINE_BIN を設定してください</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>検出が 30 s 以内に応答しなかったため終了しました</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">ファイルを読み込めません</translation>
+        <translation>ファイルを読み込めません</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>参考規格</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>ソースライセンス</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認しています…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートの確認</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>最新バージョンです (%1)。サーバー上の最新バージョンは %2 です。</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートの確認に失敗しました:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいバージョン %1 があります (現在 %2)。</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>リリース日: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>リリースノート: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいバージョンがあります</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロードして更新</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロードページを開く</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>後で</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートをダウンロードしています…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートのダウンロード</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデート</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムを終了します。</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートに失敗しました</translation>
     </message>
 </context>
 <context>

@@ -137,115 +137,115 @@
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 엔진이 완료를 보고했지만 출력 파일이 생성되지 않았습니다: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 엔진이 완료를 보고했지만 출력 파일이 새로 기록되지 않았습니다 (이전 파일 그대로): %2</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 비어 있음</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 엔진이 완료를 보고했지만 출력 파일을 읽을 수 없어 삭제했습니다 (%2): %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: 엔진이 완료를 보고했지만 출력 파일을 읽을 수 없습니다 (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(줄이 너무 길어 나머지 %1자는 표시되지 않음)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 파일이 아님</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 헤더의 파일 길이가 실제와 다름 (파일 불완전)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 포맷 청크가 잘못됨</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 데이터 청크가 잘못됨</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>DSF 메타데이터 위치가 잘못됨</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF 파일이 아님</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF 헤더의 길이가 실제와 다름 (파일 불완전)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF 청크가 파일 범위를 벗어남</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>DSDIFF에 FVER/PROP/사운드 청크가 없음</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 파일이 아님</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>RF64의 ds64 청크가 잘못됨</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV에 포맷 청크가 없음</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 데이터 청크가 파일 범위를 벗어남 (파일 불완전)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV 포맷 청크가 잘못됨</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV에 데이터 청크가 없음</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 파일이 아님</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>W64 청크가 파일 범위를 벗어남 (파일 불완전)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64에 포맷 청크가 없음</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W64에 데이터 청크가 없음</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC 파일이 아님</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC에 STREAMINFO가 없음</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>열 수 없음</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>재생</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTORUN 프리셋: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ AUTORUN 프리셋을 사용할 수 없음: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>오류: ZUVO_AI_PLAYTEST에 지정된 파일이 없습니다: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>장치 이름을 ZuvoPlayer -dev에 그대로 전달</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>DAC 장치:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>스트리밍 재생 모드 (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>재생 소스 = 위의 ‘출력 파일’ (GTK 버전과 동일: 방금 변환한 DSF/DFF 재생)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>재생 중지</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>이미 재생 중입니다. 먼저 현재 재생을 중지하세요</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>오류: 재생할 파일이 없거나 읽을 수 없음: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(출력 파일이 설정되지 않음)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>오류: ZuvoPlayer를 찾을 수 없음 — 프로그램과 같은 폴더에 두거나 PATH에 추가하세요 (또는 ZUVO_PLAYER_BIN 설정)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>플레이어 시작: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>재생 시작: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>미리 듣기 세션: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">프로세스 내 (라이브러리 직접 호출)</translation>
+        <translation>프로세스 내 (라이브러리 직접 호출)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>하위 프로세스</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>오류: 플레이어를 시작할 수 없음 — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>재생 완료</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>재생 중지됨</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>플레이어 비정상 종료, 코드: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 재생 중인 작업이 없음</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>플레이어를 중지하는 중…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[제어] %1</translation>
+        <translation>[제어] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>플레이어가 %1초 안에 마무리하지 못했습니다 (이번에는 프로세스 내에서 실행 중이라 강제 종료할 수 없음)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>플레이어가 %1초 안에 마무리하지 못해 강제 종료합니다</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>여전히 응답이 없어 플레이어를 강제 종료합니다</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>정보/진단…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>엔진 버전 보기 / 오디오 장치 나열 / 엔진 도움말 표시</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>소스 라이선스…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>참고 표준…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>오류: ZUVO_AI_RECTEST에는 출력 .dsf 경로가 필요합니다</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(엔진 출력 없음)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+종료 코드 = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>이 빌드의 엔진에는 녹음 백엔드가 없습니다 (녹음 탭의 상태 줄 참조): 녹음을 시작할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>이미 녹음 중입니다</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>녹음</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>먼저 위의 ‘출력 파일’에서 녹음 저장 경로를 설정하세요</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>녹음 출력 파일은 .dsf 형식이어야 합니다</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>오류: ZuvoEngine을 찾을 수 없음 (녹음에는 엔진의 녹음 지원이 필요합니다)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>녹음 명령: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>녹음 시작 → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>팁: 중지 시 'q'를 보내 엔진이 정상적으로 마무리하게 합니다 (PCM 처리를 멈춘 뒤 DSF 기록)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>녹음 중…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>녹음 세션: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>오류: 엔진을 시작할 수 없음 (녹음) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>진행 중인 녹음이 없습니다</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>엔진에 'q'를 보냄 — 정상 마무리 대기 중 (DSF 기록 후 자동 종료)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>녹음 엔진이 더 이상 실행 중이 아닙니다</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>엔진이 12 s 내에 마무리하지 않았습니다 (이번 실행은 프로세스 내부에서 진행되어 강제 종료할 수 없음)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>엔진이 12 s 내에 종료되지 않아 강제 종료합니다</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>녹음 저장됨: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>녹음 실패, 종료 코드: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>녹음 프로세스가 비정상 종료됨 (충돌/강제 종료)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>녹음 백엔드: 사용 가능 — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>녹음 백엔드: 사용 불가 — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>입력 장치 %1개 (로그에 나열됨)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>엔진 종료 코드 = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>ZuvoEngine을 찾을 수 없음 — 프로그램과 같은 폴더에 두거나 PATH에 추가하거나 ZUVO_ENGINE_BIN을 설정하세요</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>감지가 30 s 동안 응답하지 않아 종료됨</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">파일을 읽을 수 없음</translation>
+        <translation>파일을 읽을 수 없음</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>참고 표준</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>소스 라이선스</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인 중…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>최신 버전입니다 (%1). 서버의 최신 버전은 %2입니다.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인 실패:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>새 버전 %1 사용 가능 (현재 %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>출시일: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>릴리스 노트: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>새 버전 사용 가능</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드 및 업데이트</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로드 페이지 열기</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>나중에</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 다운로드 중…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 다운로드</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램을 종료합니다.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 실패</translation>
     </message>
 </context>
 <context>

@@ -137,115 +137,115 @@ Gotowe: %1 OK, błędy: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: silnik zgłosił zakończenie, ale nie zapisano pliku wyjściowego: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: silnik zgłosił zakończenie, ale plik wyjściowy %2 nie został zapisany (nadal stary)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik jest pusty</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: silnik zgłosił zakończenie, ale nie można odczytać pliku wyjściowego (%2); usunięto: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: silnik zgłosił zakończenie, ale nie można odczytać pliku wyjściowego (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(wiersz jest za długi; nie wyświetlono pozostałych znaków: %1)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest plik DSF</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Długość pliku w nagłówku DSF nie zgadza się z rzeczywistą (plik niekompletny)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieprawidłowy blok formatu DSF</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieprawidłowy blok danych DSF</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieprawidłowe położenie metadanych DSF</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest plik DSDIFF</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Długość w nagłówku DSDIFF nie zgadza się z rzeczywistą (plik niekompletny)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Blok DSDIFF wykracza poza plik</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>W DSDIFF brak bloku FVER/PROP/dźwięku</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest plik WAV</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieprawidłowy blok ds64 w RF64</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W WAV brak bloku formatu</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Blok danych WAV wykracza poza plik (plik niekompletny)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieprawidłowy blok formatu WAV</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W WAV brak bloku danych</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest plik W64</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Blok W64 wykracza poza plik (plik niekompletny)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>W W64 brak bloku formatu</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>W W64 brak bloku danych</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest plik FLAC</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>W FLAC brak STREAMINFO</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można otworzyć</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@ Tryb kwadrofoniczny wymaga ustawienia liczby kanałów na 4; po zaznaczeniu wart
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwórz</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset AUTORUN: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Nie można użyć presetu AUTORUN: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd: plik wskazany w ZUVO_AI_PLAYTEST nie istnieje: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa urządzenia przekazywana bezpośrednio do ZuvoPlayer -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>Urządzenie DAC:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tryb odtwarzania strumieniowego (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Źródło odtwarzania = „Plik wyjściowy” powyżej (jak w wersji GTK: odtwarza właśnie przekonwertowany DSF/DFF)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymaj odtwarzanie</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzanie już trwa, najpierw je zatrzymaj</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd: plik do odtworzenia nie istnieje lub nie można go odczytać: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(nie ustawiono pliku wyjściowego)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd: nie znaleziono ZuvoPlayer — umieść go w folderze programu lub dodaj do PATH (albo ustaw ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchamianie odtwarzacza: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzanie: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesja odsłuchu: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">w procesie (bezpośrednie wywołanie biblioteki)</translation>
+        <translation>w procesie (bezpośrednie wywołanie biblioteki)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>proces potomny</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd: nie można uruchomić odtwarzacza — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzanie zakończone</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzanie zatrzymane</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzacz zakończył działanie nieprawidłowo, kod: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie jest odtwarzane</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymywanie odtwarzacza…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[sterowanie] %1</translation>
+        <translation>[sterowanie] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzacz nie zakończył pracy w ciągu %1 s (tym razem działa w procesie, nie można wymusić jego zakończenia)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>Odtwarzacz nie zakończył pracy w ciągu %1 s, wymuszanie zakończenia</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadal brak odpowiedzi, wymuszanie zakończenia odtwarzacza</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź aktualizacje…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>O programie / diagnostyka…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>Pokaż wersję silnika / wylistuj urządzenia audio / pokaż pomoc silnika</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>Licencje kodu źródłowego…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>Normy referencyjne…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>Błąd: ZUVO_AI_RECTEST wymaga ścieżki wyjściowej .dsf</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(silnik nic nie wypisał)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+Kod wyjścia = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>Silnik w tej kompilacji nie ma backendu nagrywania (zob. wiersz stanu na karcie Nagrywanie): nie można rozpocząć nagrywania</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>Nagrywanie już trwa</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>Nagrywanie</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>Najpierw ustaw ścieżkę nagrania w polu „Plik wyjściowy” powyżej</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>Plik wyjściowy nagrania musi mieć format .dsf</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>Błąd: nie znaleziono ZuvoEngine (nagrywanie wymaga obsługi nagrywania w silniku)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>Polecenie nagrywania: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>Rozpoczęto nagrywanie → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>Wskazówka: przy zatrzymaniu wysyłane jest 'q', aby silnik poprawnie zakończył pracę (najpierw kończy przetwarzanie PCM, potem zapisuje DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>Nagrywanie…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>Sesja nagrywania: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>Błąd: nie można uruchomić silnika (nagrywanie) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>Brak trwającego nagrywania</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>Wysłano 'q' do silnika — oczekiwanie na poprawne zakończenie (zapis DSF, potem wyjście)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>Silnik nagrywania już nie działa</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>Silnik nie zakończył pracy w ciągu 12 s (to uruchomienie jest wewnątrz procesu, nie można go wymusić)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>Silnik nie zakończył się w ciągu 12 s, wymuszanie zakończenia</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>Zapisano nagranie: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>Nagrywanie nie powiodło się, kod wyjścia: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>Proces nagrywania zakończył się nieprawidłowo (awaria/zabicie)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>Backend nagrywania: dostępny — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>Backend nagrywania: niedostępny — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>Urządzenia wejściowe: %1 (wymienione w dzienniku)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>Kod wyjścia silnika = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>Nie znaleziono ZuvoEngine — umieść go w folderze programu, dodaj do PATH lub ustaw ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>Sondowanie bez odpowiedzi przez 30 s, przerwano</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@ Folder zapisu: %1</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">Nie można odczytać pliku</translation>
+        <translation>Nie można odczytać pliku</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>Normy referencyjne</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@ Wł.: jest zapisywany w %1 i zachowywany, aby można go było wysłać producent
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>Licencje kodu źródłowego</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@ Wł.: jest zapisywany w %1 i zachowywany, aby można go było wysłać producent
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdzanie aktualizacji…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź aktualizacje</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>Masz najnowszą wersję (%1). Najnowsza wersja na serwerze to %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się sprawdzić aktualizacji:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna jest nowa wersja %1 (bieżąca: %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Data wydania: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Informacje o wydaniu: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>Dostępna nowa wersja</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobierz i zaktualizuj</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz stronę pobierania</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>Później</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobieranie aktualizacji…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobieranie aktualizacji</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>Program zostanie teraz zamknięty.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizacja nie powiodła się</translation>
     </message>
 </context>
 <context>

@@ -137,115 +137,115 @@ Concluído: %1 OK, %2 com falha</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但没有写出输出文件 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: o motor informou que concluiu, mas o arquivo de saída não foi gravado: %2</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件 %2 没有被写过 (还是旧的)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: o motor informou que concluiu, mas o arquivo de saída %2 não foi gravado (ainda é o antigo)</translation>
     </message>
     <message>
         <source>文件是空的</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo está vazio</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2), 已删除: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: o motor informou que concluiu, mas não foi possível ler o arquivo de saída (%2); excluído: %3</translation>
     </message>
     <message>
         <source>✗ %1: 引擎报告完成, 但输出文件读不出来 (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ %1: o motor informou que concluiu, mas não foi possível ler o arquivo de saída (%2): %3</translation>
     </message>
     <message>
         <source> …(这一行太长, 后面 %1 个字符没有显示)</source>
-        <translation type="unfinished"></translation>
+        <translation> …(linha longa demais; %1 caracteres restantes não exibidos)</translation>
     </message>
     <message>
         <source>不是 DSF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é um arquivo DSF</translation>
     </message>
     <message>
         <source>DSF 头里的文件长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>O tamanho do arquivo no cabeçalho DSF não corresponde ao real (arquivo incompleto)</translation>
     </message>
     <message>
         <source>DSF 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco de formato DSF inválido</translation>
     </message>
     <message>
         <source>DSF 数据块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco de dados DSF inválido</translation>
     </message>
     <message>
         <source>DSF 元数据位置不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Posição dos metadados DSF inválida</translation>
     </message>
     <message>
         <source>不是 DSDIFF 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é um arquivo DSDIFF</translation>
     </message>
     <message>
         <source>DSDIFF 头里的长度与实际不符 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>O tamanho no cabeçalho DSDIFF não corresponde ao real (arquivo incompleto)</translation>
     </message>
     <message>
         <source>DSDIFF 块超出文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco DSDIFF ultrapassa o fim do arquivo</translation>
     </message>
     <message>
         <source>DSDIFF 缺少 FVER/PROP/声音块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta o bloco FVER/PROP/som no DSDIFF</translation>
     </message>
     <message>
         <source>不是 WAV 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é um arquivo WAV</translation>
     </message>
     <message>
         <source>RF64 的 ds64 块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco ds64 do RF64 inválido</translation>
     </message>
     <message>
         <source>WAV 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta o bloco de formato no WAV</translation>
     </message>
     <message>
         <source>WAV 数据块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco de dados WAV ultrapassa o fim do arquivo (arquivo incompleto)</translation>
     </message>
     <message>
         <source>WAV 格式块不对</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco de formato WAV inválido</translation>
     </message>
     <message>
         <source>WAV 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta o bloco de dados no WAV</translation>
     </message>
     <message>
         <source>不是 W64 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é um arquivo W64</translation>
     </message>
     <message>
         <source>W64 块超出文件 (文件不完整)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloco W64 ultrapassa o fim do arquivo (arquivo incompleto)</translation>
     </message>
     <message>
         <source>W64 缺少格式块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta o bloco de formato no W64</translation>
     </message>
     <message>
         <source>W64 缺少数据块</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta o bloco de dados no W64</translation>
     </message>
     <message>
         <source>不是 FLAC 文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é um arquivo FLAC</translation>
     </message>
     <message>
         <source>FLAC 缺少 STREAMINFO</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta STREAMINFO no FLAC</translation>
     </message>
     <message>
         <source>无法打开</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir</translation>
     </message>
 </context>
 <context>
@@ -1145,119 +1145,259 @@ O modo quadrifônico exige redefinir o número de canais para 4; ao marcá-lo, o
     </message>
     <message>
         <source>播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir</translation>
     </message>
     <message>
         <source>AUTORUN 预设: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset AUTORUN: %1</translation>
     </message>
     <message>
         <source>✗ AUTORUN 预设无法使用: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ Não foi possível usar o preset AUTORUN: %1 (%2)</translation>
     </message>
     <message>
         <source>错误: ZUVO_AI_PLAYTEST 指定的文件不存在: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro: o arquivo indicado em ZUVO_AI_PLAYTEST não existe: %1</translation>
     </message>
     <message>
         <source>设备名直接传给 ZuvoPlayer -dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do dispositivo passado diretamente ao ZuvoPlayer -dev</translation>
     </message>
     <message>
         <source>DAC 设备:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo DAC:</translation>
     </message>
     <message>
         <source>流式播放模式 (-stream)</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprodução em streaming (-stream)</translation>
     </message>
     <message>
         <source>播放源 = 上方「输出文件」 (镜像 GTK: 播放刚转换的 DSF/DFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte de reprodução = “Arquivo de saída” acima (como na versão GTK: reproduz o DSF/DFF recém-convertido)</translation>
     </message>
     <message>
         <source>停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Parar reprodução</translation>
     </message>
     <message>
         <source>播放正在进行中, 请先停止当前播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Já há uma reprodução em andamento; pare-a primeiro</translation>
     </message>
     <message>
         <source>错误: 播放文件不存在或无法读取: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro: o arquivo a reproduzir não existe ou não pode ser lido: %1</translation>
     </message>
     <message>
         <source>(未设置输出文件)</source>
-        <translation type="unfinished"></translation>
+        <translation>(arquivo de saída não definido)</translation>
     </message>
     <message>
         <source>错误: 未找到 ZuvoPlayer — 请放在程序同目录或加入 PATH (或设 ZUVO_PLAYER_BIN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro: ZuvoPlayer não encontrado — coloque-o na pasta do programa ou adicione-o ao PATH (ou defina ZUVO_PLAYER_BIN)</translation>
     </message>
     <message>
         <source>启动播放器: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando o player: %1 %2</translation>
     </message>
     <message>
         <source>开始播放: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzindo: %1</translation>
     </message>
     <message>
         <source>试听会话: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessão de audição: %1</translation>
     </message>
     <message>
         <source>进程内(直接调库)</source>
-        <translation type="unfinished">no processo (chamada direta à biblioteca)</translation>
+        <translation>no processo (chamada direta à biblioteca)</translation>
     </message>
     <message>
         <source>子进程</source>
-        <translation type="unfinished"></translation>
+        <translation>processo filho</translation>
     </message>
     <message>
         <source>错误: 无法启动播放器 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro: não foi possível iniciar o player — %1</translation>
     </message>
     <message>
         <source>播放完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprodução concluída</translation>
     </message>
     <message>
         <source>播放已停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprodução parada</translation>
     </message>
     <message>
         <source>播放器异常退出, 代码: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>O player terminou de forma anormal, código: %1</translation>
     </message>
     <message>
         <source>当前没有播放任务</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma reprodução em andamento</translation>
     </message>
     <message>
         <source>正在停止播放器…</source>
-        <translation type="unfinished"></translation>
+        <translation>Parando o player…</translation>
     </message>
     <message>
         <source>[控制] %1</source>
-        <translation type="unfinished">[controle] %1</translation>
+        <translation>[controle] %1</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾 (本次在进程内运行, 无法强制结束)</source>
-        <translation type="unfinished"></translation>
+        <translation>O player não finalizou em %1 s (desta vez está rodando no processo; não é possível forçar o encerramento)</translation>
     </message>
     <message>
         <source>播放器未在 %1 秒内完成收尾, 强制结束</source>
-        <translation type="unfinished"></translation>
+        <translation>O player não finalizou em %1 s; forçando o encerramento</translation>
     </message>
     <message>
         <source>仍无响应, 强制结束播放器</source>
-        <translation type="unfinished"></translation>
+        <translation>Ainda sem resposta; encerrando o player à força</translation>
     </message>
     <message>
         <source>检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar atualizações…</translation>
+    </message>
+    <message>
+        <source>关于/诊断…</source>
+        <translation>Sobre / Diagnóstico…</translation>
+    </message>
+    <message>
+        <source>看引擎版本 / 列音频设备 / 显示引擎帮助</source>
+        <translation>Ver versão do motor / listar dispositivos de áudio / mostrar ajuda do motor</translation>
+    </message>
+    <message>
+        <source>源码许可…</source>
+        <translation>Licenças do código-fonte…</translation>
+    </message>
+    <message>
+        <source>参考标准…</source>
+        <translation>Normas de referência…</translation>
+    </message>
+    <message>
+        <source>错误: ZUVO_AI_RECTEST 需要给一个输出 .dsf 路径</source>
+        <translation>Erro: ZUVO_AI_RECTEST precisa de um caminho de saída .dsf</translation>
+    </message>
+    <message>
+        <source>(引擎没有输出)</source>
+        <translation>(o motor não produziu saída)</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+%2
+
+退出码 = %3</source>
+        <translation>$ %1
+
+%2
+
+Código de saída = %3</translation>
+    </message>
+    <message>
+        <source>本构建的引擎没有录音后端 (见录音页的状态行): 不能开始录音</source>
+        <translation>O motor desta compilação não tem backend de gravação (veja a linha de status na aba Gravação): não é possível gravar</translation>
+    </message>
+    <message>
+        <source>录音正在进行中</source>
+        <translation>Gravação já em andamento</translation>
+    </message>
+    <message>
+        <source>录音</source>
+        <translation>Gravação</translation>
+    </message>
+    <message>
+        <source>请先在上方「输出文件」设置录音保存路径</source>
+        <translation>Defina primeiro o caminho da gravação em “Arquivo de saída” acima</translation>
+    </message>
+    <message>
+        <source>录音输出文件必须是 .dsf 格式</source>
+        <translation>O arquivo de saída da gravação deve ser .dsf</translation>
+    </message>
+    <message>
+        <source>错误: 未找到 ZuvoEngine (录音需要引擎录音支持)</source>
+        <translation>Erro: ZuvoEngine não encontrado (a gravação requer suporte a gravação no motor)</translation>
+    </message>
+    <message>
+        <source>录音命令: %1 %2</source>
+        <translation>Comando de gravação: %1 %2</translation>
+    </message>
+    <message>
+        <source>开始录音 → %1</source>
+        <translation>Gravação iniciada → %1</translation>
+    </message>
+    <message>
+        <source>提示: 停止时发送 'q' 让引擎优雅收尾 (先停止处理 PCM 再写 DSF)</source>
+        <translation>Dica: ao parar, 'q' é enviado para o motor finalizar corretamente (para de processar PCM e depois grava o DSF)</translation>
+    </message>
+    <message>
+        <source>录音中…</source>
+        <translation>Gravando…</translation>
+    </message>
+    <message>
+        <source>录音会话: %1</source>
+        <translation>Sessão de gravação: %1</translation>
+    </message>
+    <message>
+        <source>错误: 无法启动引擎 (录音) — %1</source>
+        <translation>Erro: não foi possível iniciar o motor (gravação) — %1</translation>
+    </message>
+    <message>
+        <source>当前没有录音任务</source>
+        <translation>Nenhuma gravação em andamento</translation>
+    </message>
+    <message>
+        <source>发送 'q' 至引擎 — 等待优雅收尾 (写 DSF 后自动退出)…</source>
+        <translation>'q' enviado ao motor — aguardando finalização limpa (grava o DSF e sai)…</translation>
+    </message>
+    <message>
+        <source>录音引擎已不在运行</source>
+        <translation>O motor de gravação não está mais em execução</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内收尾 (本次在进程内进行, 无法强制结束)</source>
+        <translation>O motor não finalizou em 12 s (esta execução é dentro do processo; não é possível forçar o encerramento)</translation>
+    </message>
+    <message>
+        <source>引擎未在 12s 内退出, 强制终止</source>
+        <translation>O motor não saiu em 12 s; forçando o encerramento</translation>
+    </message>
+    <message>
+        <source>录音保存: %1</source>
+        <translation>Gravação salva: %1</translation>
+    </message>
+    <message>
+        <source>录音失败, 退出码: %1</source>
+        <translation>Falha na gravação, código de saída: %1</translation>
+    </message>
+    <message>
+        <source>录音进程异常退出 (崩溃/被终止)</source>
+        <translation>O processo de gravação terminou de forma anormal (travou/foi encerrado)</translation>
+    </message>
+    <message>
+        <source>录音后端: 可用 — %1</source>
+        <translation>Backend de gravação: disponível — %1</translation>
+    </message>
+    <message>
+        <source>录音后端: 不可用 — %1</source>
+        <translation>Backend de gravação: indisponível — %1</translation>
+    </message>
+    <message>
+        <source>%1 个输入设备(已列在日志里)</source>
+        <translation>Dispositivos de entrada: %1 (listados no log)</translation>
+    </message>
+    <message>
+        <source>引擎退出码 = %1</source>
+        <translation>Código de saída do motor = %1</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请放在程序同目录、加入 PATH, 或设 ZUVO_ENGINE_BIN</source>
+        <translation>ZuvoEngine não encontrado — coloque-o na pasta do programa, adicione-o ao PATH ou defina ZUVO_ENGINE_BIN</translation>
+    </message>
+    <message>
+        <source>探测 30s 无响应, 已终止</source>
+        <translation>A detecção não respondeu em 30 s; encerrada</translation>
     </message>
 </context>
 <context>
@@ -1410,7 +1550,14 @@ Pasta de gravação: %1</translation>
     </message>
     <message>
         <source>无法读取文件</source>
-        <translation type="unfinished">Não foi possível ler o arquivo</translation>
+        <translation>Não foi possível ler o arquivo</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencesGui</name>
+    <message>
+        <source>参考标准</source>
+        <translation>Normas de referência</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1598,13 @@ Ligado: é gravado em %1 e mantido, para que você possa enviá-lo ao fornecedor
     </message>
 </context>
 <context>
+    <name>ThirdPartyGui</name>
+    <message>
+        <source>源码许可</source>
+        <translation>Licenças do código-fonte</translation>
+    </message>
+</context>
+<context>
     <name>UiLangRow</name>
     <message>
         <source>语言</source>
@@ -1473,67 +1627,67 @@ Ligado: é gravado em %1 e mantido, para que você possa enviá-lo ao fornecedor
     <name>UpdateUi</name>
     <message>
         <source>正在检查更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificando atualizações…</translation>
     </message>
     <message>
         <source>检查更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar atualizações</translation>
     </message>
     <message>
         <source>已是最新版本 (%1)。服务器上的最新版本为 %2。</source>
-        <translation type="unfinished"></translation>
+        <translation>Você já tem a versão mais recente (%1). A versão mais recente no servidor é %2.</translation>
     </message>
     <message>
         <source>检查更新失败：</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao verificar atualizações:</translation>
     </message>
     <message>
         <source>发现新版本 %1（当前 %2）。</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova versão %1 disponível (atual: %2).</translation>
     </message>
     <message>
         <source>发布日期：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Data de lançamento: %1</translation>
     </message>
     <message>
         <source>更新说明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas da versão: %1</translation>
     </message>
     <message>
         <source>发现新版本</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova versão disponível</translation>
     </message>
     <message>
         <source>下载并更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixar e atualizar</translation>
     </message>
     <message>
         <source>打开下载页</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir página de download</translation>
     </message>
     <message>
         <source>稍后</source>
-        <translation type="unfinished"></translation>
+        <translation>Mais tarde</translation>
     </message>
     <message>
         <source>正在下载更新…</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixando a atualização…</translation>
     </message>
     <message>
         <source>下载更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixar atualização</translation>
     </message>
     <message>
         <source>更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualização</translation>
     </message>
     <message>
         <source>程序现在退出。</source>
-        <translation type="unfinished"></translation>
+        <translation>O programa será fechado agora.</translation>
     </message>
     <message>
         <source>更新失败</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na atualização</translation>
     </message>
 </context>
 <context>

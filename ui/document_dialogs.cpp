@@ -9,7 +9,7 @@
 
 QString documentLanguage(const QString& interfaceLanguage)
 {
-    if (interfaceLanguage == QLatin1String("zh") || interfaceLanguage == QLatin1String("hant"))
+    if (interfaceLanguage == QLatin1String("zh"))
         return QStringLiteral("zh");
     if (interfaceLanguage == QLatin1String("pl"))
         return QStringLiteral("pl");

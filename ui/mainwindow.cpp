@@ -56,7 +56,32 @@ void MainWindow::buildUi()
     auto* layout = new QVBoxLayout(central);
     io_ = new InputOutputPanel(central);
     run_ = new RunControlsPanel(central);
-#include <QSplitter>
+    buildPages();
+    tabs_->insertPage(5, createPlayPage(tabs_), tr("播放"));
+    tabs_->insertPage(7, createRecordPage(tabs_), tr("录音"));
+    // The recording backend is probed the first time its page is shown.
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) {
+        if (index == 7)
+            recordPageShown();
+    });
+    run_->addToButtonRow(createDiagnosticsButtons(run_));
+    // The pages get the room; the file list and the log shrink to a few
+    // lines first (they scroll), and the splitter lets the user trade
+    // between the three, so nothing overlaps in a small window.
+    for (QWidget* w : std::initializer_list<QWidget*>{io_->fileList(), run_->log()}) {
+        w->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        w->setMinimumHeight(64);
+    }
+    tabs_->setMinimumHeight(200);
+    auto* split = new QSplitter(Qt::Vertical, central);
+    split->addWidget(io_);
+    split->addWidget(tabs_);
+    split->addWidget(run_);
+    split->setChildrenCollapsible(false);
+    split->setStretchFactor(0, 0);
+    split->setStretchFactor(1, 1);
+    split->setStretchFactor(2, 0);
+    layout->addWidget(split);
     setCentralWidget(central);
     // The status bar's permanent widgets (language, updates) join at its right end.
     statusBar();

@@ -97,7 +97,9 @@ int runForward(RunContext& ctx)
                        io::maxChannels(container), outs);
             return kExitUsage;
         }
-        if (container == io::DsdContainer::Dsf
+        // Channel options that change the count write the default layout of
+        // the new count, which every container can name.
+        if (container == io::DsdContainer::Dsf && outs == in.channels
             && io::dsfChannelType(writtenLayout(in.layout, io::containerOrder(in.layout))) == 0) {
             report(ctx, "a DSF file has no channel type for the channels of %s (%s): use a .dff output",
                    input.c_str(), io::layoutText(in.layout).c_str());

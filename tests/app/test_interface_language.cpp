@@ -130,6 +130,31 @@ private slots:
             QVERIFY2(m.captured(5) != QStringLiteral("开始转换") && !m.captured(5).isEmpty(), qPrintable(out));
         QVERIFY2(!p.readAllStandardError().contains("ui-language:"), "a shipped translation was missing");
     }
+
+    // With the about variant the program also runs the engine's device
+    // listing and reports its size and head; no sound card is needed.
+    void smokeAboutReportsTheDeviceListing()
+    {
+        QTemporaryDir settings;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        env.insert("ZUVO_SETTINGS_DIR", settings.path());
+        env.insert("ZUVO_NO_UPDATE_CHECK", "1");
+        env.insert("ZUVO_GUI_SMOKE", "1");
+        env.insert("ZUVO_GUI_SMOKE_ABOUT", "1");
+        QProcess p;
+        p.setProcessEnvironment(env);
+        p.start(ZUVO_APP_PATH, {});
+        QVERIFY(p.waitForFinished(60000));
+        const QString out = QString::fromUtf8(p.readAllStandardOutput());
+        QCOMPARE(p.exitCode(), 0);
+        const QRegularExpressionMatch m =
+            QRegularExpression(QStringLiteral("SMOKE_ABOUT trigger_ms=(\\d+) result_chars=(\\d+) head=\"([^\"]*)\""))
+                .match(out);
+        QVERIFY2(m.hasMatch(), qPrintable(out));
+        QVERIFY(m.captured(2).toInt() > 0);
+        QVERIFY2(m.captured(3).contains("Available audio INPUT devices"), qPrintable(out));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestInterfaceLanguage)

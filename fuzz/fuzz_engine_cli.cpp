@@ -23,10 +23,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (args.size() > 256)
         return 0;
     const zuvo::cli::ParsedCommandLine parsed = zuvo::cli::parseCommandLine(args);
-    // A parse always ends in a decision: an accepted command line names an
-    // input and an output.
-    if (!parsed.usageError() && !parsed.options.showHelp && !parsed.options.showVersion
-        && !parsed.options.listDevices && (parsed.options.inputs.empty() || parsed.options.output.empty()))
+    // A parse always ends in a decision: an accepted command line either
+    // asks for information, or names an output and (unless it records from
+    // a device) an input.
+    const auto& o = parsed.options;
+    const bool information = o.showHelp || o.showVersion || o.listDevices || o.showCapabilities;
+    const bool recording = o.mode == zuvo::cli::Mode::Record;
+    if (!parsed.usageError() && !information && (o.output.empty() || (!recording && o.inputs.empty())))
         __builtin_trap();
     return 0;
 }

@@ -1399,6 +1399,124 @@
         <source>探测 30s 无响应, 已终止</source>
         <translation>لم يستجب الفحص خلال 30 s، تم الإنهاء</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>حول / التشخيص</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — واجهة تحويل أمامية لـ ZuvoEngine (عملية فرعية QProcess)
+مسار المحرك: %1
+ملاحظة: أوامر التعليمات/الإصدار الفرعية في المحرك تنتهي برمز خروج غير صفري بطبيعتها، وهذا سلوك معروف.
+الفحص غير متزامن: يمكنك متابعة استخدام الواجهة بعد النقر، وستظهر النتيجة أدناه عند وصولها.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(غير موجود)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>انقر أي زر أدناه لعرض استجابة المحرك</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>إصدار المحرك (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>سرد أجهزة الصوت (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>تعليمات المحرك (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>لم يُعثر على ZuvoEngine — ضعه في مجلد البرنامج، أو أضفه إلى PATH، أو عيّن متغير البيئة ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+قيد التشغيل… (الواجهة لا تتجمد، يمكنك متابعة العمل)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>فشل تشغيل المحرك: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+لم يستجب المحرك لمدة 30 s وتم إنهاؤه (لم يفتح أي جهاز، ولا تتأثر المهام الجارية).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>واجهة التسجيل الخلفية: لم تُفحص بعد</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>فحص دعم التسجيل / سرد أجهزة الإدخال</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>جهاز التسجيل (فارغ=الافتراضي):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>عدد القنوات (0=تلقائي):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>معدل العينات Hz (0=تلقائي):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>المدة بالثواني (0=يدوي):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>هامش الذروة dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>إطارات المخزن المؤقت:</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>الوضع الحصري (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>تسجيل DSD مباشر (وإلا PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>مراقبة الإدخال</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>جهاز إخراج المراقبة:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>مخرج التسجيل = «ملف الإخراج» أعلاه (يجب أن يكون .dsf)؛ عند الإيقاف يُرسَل 'q' إلى المحرك ليُنهي عمله بسلاسة (كما في إصدار GTK)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>بدء التسجيل</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>إيقاف التسجيل</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

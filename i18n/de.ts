@@ -851,7 +851,7 @@ Deaktivieren Sie sie auf den Parameterseiten und starten Sie erneut (in Presets 
     </message>
     <message>
         <source>保留乐器泛音 (降噪时保住泛音与泛音列)</source>
-        <translation>Obertöne von Instrumenten erhalten (beim Entrauschen Obertöne und Obertonreihen bewahren)</translation>
+        <translation>Obertöne der Instrumente erhalten (beim Entrauschen)</translation>
     </message>
     <message>
         <source>报告里加峰值 (--peak)</source>
@@ -1398,6 +1398,124 @@ Exit-Code = %3</translation>
     <message>
         <source>探测 30s 无响应, 已终止</source>
         <translation>Prüfung 30 s ohne Antwort, abgebrochen</translation>
+    </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>Info / Diagnose</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — Konvertierungs-Frontend für ZuvoEngine (QProcess-Unterprozess)
+Engine-Pfad: %1
+Hinweis: Die Hilfe-/Versions-Unterbefehle der Engine enden konstruktionsbedingt mit einem Exit-Code ungleich 0; das ist bekanntes Verhalten.
+Die Prüfung läuft asynchron: Nach dem Klick können Sie weiterarbeiten, das Ergebnis erscheint unten.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(nicht gefunden)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Klicken Sie unten auf eine Schaltfläche, um die Antwort der Engine zu sehen</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Engine-Version (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>Audiogeräte auflisten (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Engine-Hilfe (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine nicht gefunden — legen Sie sie in den Programmordner, fügen Sie sie zu PATH hinzu oder setzen Sie die Umgebungsvariable ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Läuft… (die Oberfläche bleibt bedienbar, Sie können weiterarbeiten)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>Engine konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+Die Engine hat 30 s nicht geantwortet und wurde beendet (kein Gerät geöffnet, laufende Aufgaben sind nicht betroffen).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Aufnahme-Backend: nicht geprüft</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Aufnahmeunterstützung prüfen / Eingabegeräte auflisten</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Aufnahmegerät (leer=Standard):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Kanäle (0=auto):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Abtastrate Hz (0=auto):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Dauer (s, 0=manuell):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Headroom dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Puffer-Frames:</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Exklusivmodus (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>DSD direkt aufnehmen (sonst PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Eingang abhören</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Abhör-Ausgabegerät:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Aufnahmeziel = „Ausgabedatei“ oben (muss .dsf sein); Stoppen sendet 'q' an die Engine für einen sauberen Abschluss (wie in der GTK-Version)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Aufnahme starten</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Aufnahme stoppen</translation>
     </message>
 </context>
 <context>

@@ -1399,6 +1399,124 @@ Exit code = %3</translation>
         <source>探测 30s 无响应, 已终止</source>
         <translation>Probe did not respond within 30 s; terminated</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>About / Diagnostics</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — conversion front end for ZuvoEngine (QProcess child process)
+Engine path: %1
+Note: the engine's help/version subcommands exit with a non-zero code by design; this is expected.
+Probing is asynchronous: you can keep using the interface after clicking, and the result appears below when it arrives.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(not found)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Click any button below to see the engine's answer</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Engine version (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>List audio devices (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Engine help (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine not found — place it next to this program, add it to PATH, or set the ZUVO_ENGINE_BIN environment variable.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Running… (the UI stays responsive, keep working)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>Failed to start the engine: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+The engine did not respond for 30 s and was terminated (it never opened a device; running tasks are unaffected).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Recording backend: not probed</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Probe recording support / list input devices</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Recording device (empty=default):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Channels (0=auto):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Sample rate Hz (0=auto):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Duration (s, 0=manual):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Headroom dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Buffer frames:</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Exclusive mode (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>Record DSD directly (otherwise PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Monitor input</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Monitor output device:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Recording output = “Output file” above (must be .dsf); Stop sends 'q' so the engine finishes cleanly (as in the GTK version)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Start Recording</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Stop Recording</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

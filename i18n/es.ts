@@ -1399,6 +1399,124 @@ Código de salida = %3</translation>
         <source>探测 30s 无响应, 已终止</source>
         <translation>La detección no respondió en 30 s; se terminó</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>Acerca de / Diagnóstico</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — interfaz de conversión para ZuvoEngine (subproceso QProcess)
+Ruta del motor: %1
+Nota: los subcomandos de ayuda/versión del motor terminan con un código de salida distinto de 0 por diseño; es el comportamiento esperado.
+La detección es asíncrona: tras hacer clic puede seguir usando la interfaz; el resultado aparecerá abajo.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(no encontrado)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Haga clic en cualquier botón de abajo para ver la respuesta del motor</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Versión del motor (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>Listar dispositivos de audio (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Ayuda del motor (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>No se encontró ZuvoEngine — colóquelo en la carpeta del programa, añádalo al PATH o defina la variable de entorno ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Ejecutando… (la interfaz sigue respondiendo, puede seguir trabajando)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>No se pudo iniciar el motor: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+El motor no respondió durante 30 s y se terminó (no abrió ningún dispositivo; las tareas en curso no se ven afectadas).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Backend de grabación: sin comprobar</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Detectar soporte de grabación / listar dispositivos de entrada</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Dispositivo de grabación (vacío=predet.):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Canales (0=auto):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Frec. de muestreo Hz (0=auto):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Duración (s, 0=manual):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Headroom dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Búfer (tramas):</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Modo exclusivo (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>Grabación DSD directa (si no, PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Monitorizar entrada</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Dispositivo de monitorización:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Salida de la grabación = «Archivo de salida» de arriba (debe ser .dsf); al detener se envía 'q' al motor para un cierre limpio (como en la versión GTK)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Iniciar grabación</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Detener grabación</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

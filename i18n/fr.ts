@@ -1399,6 +1399,124 @@ Code de sortie = %3</translation>
         <source>探测 30s 无响应, 已终止</source>
         <translation>Détection sans réponse pendant 30 s, arrêtée</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>À propos / Diagnostic</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — interface de conversion pour ZuvoEngine (sous-processus QProcess)
+Chemin du moteur : %1
+Remarque : les sous-commandes d'aide/de version du moteur se terminent normalement avec un code de sortie non nul ; c'est le comportement prévu.
+La détection est asynchrone : après le clic, vous pouvez continuer à utiliser l'interface ; le résultat s'affichera ci-dessous.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(introuvable)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Cliquez sur un bouton ci-dessous pour voir la réponse du moteur</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Version du moteur (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>Lister les périphériques audio (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Aide du moteur (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine introuvable — placez-le dans le dossier du programme, ajoutez-le au PATH ou définissez la variable d'environnement ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Exécution… (l'interface reste réactive, vous pouvez continuer)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>Échec du démarrage du moteur : %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+Le moteur n'a pas répondu pendant 30 s et a été arrêté (aucun périphérique ouvert, les tâches en cours ne sont pas affectées).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Backend d'enregistrement : non vérifié</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Détecter la prise en charge de l'enregistrement / lister les périphériques d'entrée</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Périphérique d'enregistrement (vide = défaut) :</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Canaux (0 = auto) :</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Fréq. d'échantillonnage Hz (0 = auto) :</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Durée (s, 0 = manuel) :</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Marge (headroom) dB :</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Tampon (trames) :</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Mode exclusif (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>Enregistrement DSD direct (sinon PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Monitoring de l'entrée</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Périphérique de monitoring :</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Sortie de l'enregistrement = « Fichier de sortie » ci-dessus (.dsf obligatoire) ; l'arrêt envoie 'q' au moteur pour une fin propre (comme la version GTK)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Démarrer l'enregistrement</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Arrêter l'enregistrement</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

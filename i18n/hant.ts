@@ -1399,6 +1399,124 @@
         <source>探测 30s 无响应, 已终止</source>
         <translation>偵測 30 s 無回應, 已終止</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>關於 / 診斷</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — ZuvoEngine 的轉碼前端 (QProcess 子處理程序)
+引擎路徑: %1
+註: 引擎的說明/版本類子命令本來就會以非 0 結束代碼結束, 屬既有行為。
+偵測為非同步: 按下後仍可繼續操作介面, 結果出來後會顯示在下方。</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(找不到)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>按下方任一按鈕即可檢視引擎的回應</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>引擎版本 (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>列出音訊裝置 (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>引擎說明 (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>找不到 ZuvoEngine — 請將它放在程式所在資料夾、加入 PATH, 或設定環境變數 ZUVO_ENGINE_BIN。</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+執行中… (介面不會凍結, 可繼續操作)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>引擎啟動失敗: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+引擎 30 s 無回應, 已終止 (未開啟裝置, 不會影響正在執行的工作)。</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>錄音後端: 未偵測</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>偵測錄音支援 / 列出輸入裝置</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>錄音裝置 (空白=預設):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>聲道數 (0=自動):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>取樣率 Hz (0=自動):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>時長 秒 (0=手動):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>動態餘量 dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>緩衝幀數:</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>獨佔模式 (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>直接錄製 DSD (否則為 PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>監聽輸入</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>監聽輸出裝置:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>錄音輸出 = 上方「輸出檔案」(必須為 .dsf); 停止時會向引擎傳送 'q' 正常收尾 (與 GTK 版相同)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>開始錄音</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>停止錄音</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

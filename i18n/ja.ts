@@ -1399,6 +1399,124 @@
         <source>探测 30s 无响应, 已终止</source>
         <translation>検出が 30 s 以内に応答しなかったため終了しました</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>バージョン情報 / 診断</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — ZuvoEngine の変換フロントエンド (QProcess 子プロセス)
+エンジンのパス: %1
+注: エンジンのヘルプ/バージョン系サブコマンドは仕様上 0 以外の終了コードで終了します (既存の動作です)。
+検出は非同期です: クリック後も操作を続けられ、結果が届くと下に表示されます。</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(見つかりません)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>下のいずれかのボタンをクリックするとエンジンの応答を表示します</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>エンジンのバージョン (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>オーディオデバイス一覧 (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>エンジンのヘルプ (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine が見つかりません — プログラムと同じフォルダーに置くか、PATH に追加するか、環境変数 ZUVO_ENGINE_BIN を設定してください。</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+実行中… (画面は固まりません。操作を続けられます)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>エンジンの起動に失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+エンジンが 30 s 応答しなかったため終了しました (デバイスは開いていないため、実行中のタスクには影響しません)。</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>録音バックエンド: 未確認</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>録音サポートを検出 / 入力デバイス一覧</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>録音デバイス (空欄=既定):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>チャンネル数 (0=自動):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>サンプルレート Hz (0=自動):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>録音時間 秒 (0=手動):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>ヘッドルーム dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>バッファ (フレーム):</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>排他モード (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>DSD 直接録音 (オフ時は PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>入力をモニター</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>モニター出力デバイス:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>録音の出力先 = 上の「出力ファイル」(.dsf 必須)。停止時はエンジンに 'q' を送信して正常に終了させます (GTK 版と同じ)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>録音開始</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>録音停止</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

@@ -1399,6 +1399,124 @@
         <source>探测 30s 无响应, 已终止</source>
         <translation>감지가 30 s 동안 응답하지 않아 종료됨</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>정보 / 진단</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — ZuvoEngine용 변환 프런트엔드 (QProcess 하위 프로세스)
+엔진 경로: %1
+참고: 엔진의 도움말/버전 하위 명령은 원래 0이 아닌 종료 코드로 끝납니다 (기존 동작).
+감지는 비동기로 진행됩니다: 클릭한 뒤에도 계속 작업할 수 있으며 결과가 나오면 아래에 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(찾을 수 없음)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>아래 버튼 중 하나를 클릭하면 엔진의 응답이 표시됩니다</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>엔진 버전 (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>오디오 장치 나열 (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>엔진 도움말 (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine을 찾을 수 없음 — 프로그램과 같은 폴더에 두거나 PATH에 추가하거나 환경 변수 ZUVO_ENGINE_BIN을 설정하세요.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+실행 중… (화면이 멈추지 않으니 계속 작업할 수 있습니다)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>엔진 시작 실패: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+엔진이 30 s 동안 응답하지 않아 종료했습니다 (장치를 열지 않으므로 실행 중인 작업에는 영향이 없습니다).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>녹음 백엔드: 감지 전</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>녹음 지원 감지 / 입력 장치 나열</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>녹음 장치 (비우면 기본값):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>채널 수 (0=자동):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>샘플 레이트 Hz (0=자동):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>길이(초) (0=수동):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>헤드룸 dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>버퍼 프레임:</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>독점 모드 (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>DSD 직접 녹음 (끄면 PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>입력 모니터링</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>모니터 출력 장치:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>녹음 출력 = 위의 ‘출력 파일’ (.dsf 필수); 중지 시 엔진에 'q'를 보내 정상적으로 마무리 (GTK 버전과 동일)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>녹음 시작</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>녹음 중지</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

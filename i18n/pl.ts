@@ -1399,6 +1399,124 @@ Kod wyjścia = %3</translation>
         <source>探测 30s 无响应, 已终止</source>
         <translation>Sondowanie bez odpowiedzi przez 30 s, przerwano</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>O programie / diagnostyka</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — nakładka konwersji dla ZuvoEngine (proces potomny QProcess)
+Ścieżka silnika: %1
+Uwaga: podpolecenia pomocy/wersji silnika z założenia kończą się niezerowym kodem wyjścia; to zamierzone zachowanie.
+Sondowanie jest asynchroniczne: po kliknięciu można dalej korzystać z interfejsu, a wynik pojawi się poniżej.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(nie znaleziono)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Kliknij dowolny przycisk poniżej, aby zobaczyć odpowiedź silnika</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Wersja silnika (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>Wylistuj urządzenia audio (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Pomoc silnika (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>Nie znaleziono ZuvoEngine — umieść go w folderze programu, dodaj do PATH lub ustaw zmienną środowiskową ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Trwa wykonywanie… (interfejs nie jest zablokowany, można dalej pracować)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>Nie udało się uruchomić silnika: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+Silnik nie odpowiadał przez 30 s i został zakończony (nie otwierał urządzeń, nie wpływa to na trwające zadania).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Backend nagrywania: nie sprawdzono</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Sprawdź obsługę nagrywania / wylistuj urządzenia wejściowe</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Urządzenie nagrywania (puste=domyślne):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Kanały (0=auto):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Częst. próbkowania Hz (0=auto):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Czas (s, 0=ręcznie):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Zapas dynamiki dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Bufor (ramki):</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Tryb wyłączny (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>Bezpośrednie nagrywanie DSD (inaczej PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Odsłuch wejścia</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Urządzenie odsłuchu:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Wyjście nagrania = „Plik wyjściowy” powyżej (musi być .dsf); zatrzymanie wysyła 'q' do silnika, aby poprawnie zakończył pracę (jak w wersji GTK)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Rozpocznij nagrywanie</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Zatrzymaj nagrywanie</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

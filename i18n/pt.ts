@@ -1399,6 +1399,124 @@ Código de saída = %3</translation>
         <source>探测 30s 无响应, 已终止</source>
         <translation>A detecção não respondeu em 30 s; encerrada</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>Sobre / Diagnóstico</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — interface de conversão para o ZuvoEngine (processo filho QProcess)
+Caminho do motor: %1
+Obs.: os subcomandos de ajuda/versão do motor terminam com código de saída diferente de 0 por design; é o comportamento esperado.
+A detecção é assíncrona: depois de clicar, você pode continuar usando a interface; o resultado aparecerá abaixo.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(não encontrado)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Clique em qualquer botão abaixo para ver a resposta do motor</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Versão do motor (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>Listar dispositivos de áudio (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Ajuda do motor (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine não encontrado — coloque-o na pasta do programa, adicione-o ao PATH ou defina a variável de ambiente ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Executando… (a interface continua respondendo, você pode continuar usando)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>Falha ao iniciar o motor: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+O motor não respondeu por 30 s e foi encerrado (nenhum dispositivo foi aberto; as tarefas em andamento não são afetadas).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Backend de gravação: não verificado</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Detectar suporte a gravação / listar dispositivos de entrada</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Dispositivo de gravação (vazio=padrão):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Canais (0=auto):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Taxa de amostragem Hz (0=auto):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Duração (s, 0=manual):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Headroom dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Buffer (frames):</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Modo exclusivo (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>Gravação DSD direta (senão, PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Monitorar entrada</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Dispositivo de monitoramento:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Saída da gravação = “Arquivo de saída” acima (deve ser .dsf); ao parar, 'q' é enviado ao motor para uma finalização limpa (como na versão GTK)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Iniciar gravação</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Parar gravação</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

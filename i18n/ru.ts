@@ -1399,6 +1399,124 @@
         <source>探测 30s 无响应, 已终止</source>
         <translation>Проверка не ответила за 30 s, прервана</translation>
     </message>
+    <message>
+        <source>关于 / 诊断</source>
+        <translation>О программе / диагностика</translation>
+    </message>
+    <message>
+        <source>ZuvoAudioTools — ZuvoEngine 的转码前端 (QProcess 子进程)
+引擎路径: %1
+注: 引擎的帮助/版本类子命令本来就以非 0 退出码收尾, 属既有行为。
+探测是异步的: 点完可以继续操作界面, 结果到了会显示在下面。</source>
+        <translation>ZuvoAudioTools — оболочка конвертации для ZuvoEngine (дочерний процесс QProcess)
+Путь к движку: %1
+Примечание: подкоманды справки/версии движка штатно завершаются с ненулевым кодом выхода — это ожидаемое поведение.
+Проверка асинхронная: после нажатия можно продолжать работу, результат появится ниже.</translation>
+    </message>
+    <message>
+        <source>(未找到)</source>
+        <translation>(не найден)</translation>
+    </message>
+    <message>
+        <source>点下面任一按钮看引擎的回答</source>
+        <translation>Нажмите любую кнопку ниже, чтобы увидеть ответ движка</translation>
+    </message>
+    <message>
+        <source>引擎版本 (--version)</source>
+        <translation>Версия движка (--version)</translation>
+    </message>
+    <message>
+        <source>列出音频设备 (--list-devices)</source>
+        <translation>Список аудиоустройств (--list-devices)</translation>
+    </message>
+    <message>
+        <source>引擎帮助 (--help)</source>
+        <translation>Справка движка (--help)</translation>
+    </message>
+    <message>
+        <source>未找到 ZuvoEngine —— 请把它放在程序同目录、加入 PATH, 或设置环境变量 ZUVO_ENGINE_BIN。</source>
+        <translation>ZuvoEngine не найден — поместите его в папку программы, добавьте в PATH или задайте переменную окружения ZUVO_ENGINE_BIN.</translation>
+    </message>
+    <message>
+        <source>$ %1
+
+运行中… (界面不冻, 可继续操作)
+</source>
+        <translation>$ %1
+
+Выполняется… (интерфейс не блокируется, можно продолжать работу)
+</translation>
+    </message>
+    <message>
+        <source>引擎启动失败: %1</source>
+        <translation>Не удалось запустить движок: %1</translation>
+    </message>
+    <message>
+        <source>
+引擎 30s 无响应, 已终止 (不进设备, 不会影响到正在跑的任务)。</source>
+        <translation>
+Движок не отвечал 30 s и был остановлен (устройства не открывались, выполняемые задачи не затронуты).</translation>
+    </message>
+    <message>
+        <source>录音后端: 未检测</source>
+        <translation>Бэкенд записи: не проверен</translation>
+    </message>
+    <message>
+        <source>检测录音支持 / 列出输入设备</source>
+        <translation>Проверить поддержку записи / список устройств ввода</translation>
+    </message>
+    <message>
+        <source>录音设备 (空=默认):</source>
+        <translation>Устройство записи (пусто=по умолч.):</translation>
+    </message>
+    <message>
+        <source>声道数 (0=自动):</source>
+        <translation>Каналы (0=авто):</translation>
+    </message>
+    <message>
+        <source>采样率 Hz (0=自动):</source>
+        <translation>Частота дискретизации Hz (0=авто):</translation>
+    </message>
+    <message>
+        <source>时长秒 (0=手动):</source>
+        <translation>Длительность, s (0=вручную):</translation>
+    </message>
+    <message>
+        <source>头空间 dB:</source>
+        <translation>Запас по уровню dB:</translation>
+    </message>
+    <message>
+        <source>缓冲帧:</source>
+        <translation>Буфер (фреймов):</translation>
+    </message>
+    <message>
+        <source>直通模式 (--record-exclusive)</source>
+        <translation>Монопольный режим (--record-exclusive)</translation>
+    </message>
+    <message>
+        <source>DSD 直录 (否则 PCM2PDM)</source>
+        <translation>Прямая запись DSD (иначе PCM2PDM)</translation>
+    </message>
+    <message>
+        <source>监听输入</source>
+        <translation>Мониторинг входа</translation>
+    </message>
+    <message>
+        <source>监听输出设备:</source>
+        <translation>Устройство мониторинга:</translation>
+    </message>
+    <message>
+        <source>录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)</source>
+        <translation>Файл записи = «Выходной файл» выше (только .dsf); при остановке движку отправляется 'q' для корректного завершения (как в версии GTK)</translation>
+    </message>
+    <message>
+        <source>开始录音</source>
+        <translation>Начать запись</translation>
+    </message>
+    <message>
+        <source>停止录音</source>
+        <translation>Остановить запись</translation>
+    </message>
 </context>
 <context>
     <name>PerTrackDialog</name>

@@ -16,11 +16,6 @@
 
 namespace {
 
-QString mwText(const char* text)
-{
-    return QCoreApplication::translate("MainWindow", text);
-}
-
 QSpinBox* spin(QWidget* parent, int lo, int hi, int step, int value)
 {
     auto* s = new QSpinBox(parent);
@@ -37,9 +32,9 @@ RecordPage::RecordPage(QWidget* parent)
 {
     auto* layout = new QVBoxLayout(this);
     auto* top = new QHBoxLayout;
-    status_ = new QLabel(mwText("录音后端: 未检测"), this);
+    status_ = new QLabel(QCoreApplication::translate("MainWindow", "录音后端: 未检测"), this);
     status_->setWordWrap(true);
-    probe_ = new QPushButton(mwText("检测录音支持 / 列出输入设备"), this);
+    probe_ = new QPushButton(QCoreApplication::translate("MainWindow", "检测录音支持 / 列出输入设备"), this);
     top->addWidget(status_, 1);
     top->addWidget(probe_);
     layout->addLayout(top);
@@ -47,27 +42,27 @@ RecordPage::RecordPage(QWidget* parent)
     auto* form = new QFormLayout;
     device_ = new QLineEdit(this);
     device_->setPlaceholderText(QStringLiteral("default"));
-    form->addRow(mwText("录音设备 (空=默认):"), device_);
+    form->addRow(QCoreApplication::translate("MainWindow", "录音设备 (空=默认):"), device_);
     channels_ = spin(this, 0, 8, 1, 2);
-    form->addRow(mwText("声道数 (0=自动):"), channels_);
+    form->addRow(QCoreApplication::translate("MainWindow", "声道数 (0=自动):"), channels_);
     rate_ = spin(this, 0, 384000, 1000, 0);
-    form->addRow(mwText("采样率 Hz (0=自动):"), rate_);
+    form->addRow(QCoreApplication::translate("MainWindow", "采样率 Hz (0=自动):"), rate_);
     duration_ = spin(this, 0, 86400, 1, 0);
-    form->addRow(mwText("时长秒 (0=手动):"), duration_);
+    form->addRow(QCoreApplication::translate("MainWindow", "时长秒 (0=手动):"), duration_);
     headroom_ = new QDoubleSpinBox(this);
     headroom_->setRange(0.0, 24.0);
     headroom_->setDecimals(1);
     headroom_->setSingleStep(0.5);
     headroom_->setValue(3.0);
-    form->addRow(mwText("头空间 dB:"), headroom_);
+    form->addRow(QCoreApplication::translate("MainWindow", "头空间 dB:"), headroom_);
     buffer_ = spin(this, 64, 8192, 64, 512);
-    form->addRow(mwText("缓冲帧:"), buffer_);
+    form->addRow(QCoreApplication::translate("MainWindow", "缓冲帧:"), buffer_);
     layout->addLayout(form);
 
-    exclusive_ = new QCheckBox(mwText("直通模式 (--record-exclusive)"), this);
+    exclusive_ = new QCheckBox(QCoreApplication::translate("MainWindow", "直通模式 (--record-exclusive)"), this);
     layout->addWidget(exclusive_);
     auto* dsdRow = new QHBoxLayout;
-    dsd_ = new QCheckBox(mwText("DSD 直录 (否则 PCM2PDM)"), this);
+    dsd_ = new QCheckBox(QCoreApplication::translate("MainWindow", "DSD 直录 (否则 PCM2PDM)"), this);
     dsdMode_ = new QComboBox(this);
     dsdMode_->addItems({QStringLiteral("dop"), QStringLiteral("native")});
     dsdRow->addWidget(dsd_);
@@ -75,22 +70,22 @@ RecordPage::RecordPage(QWidget* parent)
     dsdRow->addStretch(1);
     layout->addLayout(dsdRow);
     auto* monitorRow = new QHBoxLayout;
-    monitor_ = new QCheckBox(mwText("监听输入"), this);
+    monitor_ = new QCheckBox(QCoreApplication::translate("MainWindow", "监听输入"), this);
     monitorDevice_ = new QLineEdit(this);
     monitorRow->addWidget(monitor_);
-    monitorRow->addWidget(new QLabel(mwText("监听输出设备:"), this));
+    monitorRow->addWidget(new QLabel(QCoreApplication::translate("MainWindow", "监听输出设备:"), this));
     monitorRow->addWidget(monitorDevice_, 1);
     layout->addLayout(monitorRow);
-    pdf_ = new QCheckBox(mwText("添加 PDF 报告"), this);
+    pdf_ = new QCheckBox(QCoreApplication::translate("MainWindow", "添加 PDF 报告"), this);
     layout->addWidget(pdf_);
 
     auto* note = new QLabel(
-        mwText("录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)"), this);
+        QCoreApplication::translate("MainWindow", "录音输出 = 上方「输出文件」(必须 .dsf); 停止时向引擎发送 'q' 优雅收尾 (镜像 GTK)"), this);
     note->setWordWrap(true);
     layout->addWidget(note);
     auto* buttons = new QHBoxLayout;
-    start_ = new QPushButton(mwText("开始录音"), this);
-    stop_ = new QPushButton(mwText("停止录音"), this);
+    start_ = new QPushButton(QCoreApplication::translate("MainWindow", "开始录音"), this);
+    stop_ = new QPushButton(QCoreApplication::translate("MainWindow", "停止录音"), this);
     buttons->addWidget(start_);
     buttons->addWidget(stop_);
     buttons->addStretch(1);

@@ -71,6 +71,14 @@ void RunControlsPanel::setRunning(bool running)
 
 void RunControlsPanel::addToButtonRow(QWidget* w)
 {
-    // Before the trailing stretch, so the row stays packed to the left.
-    buttonRow_->insertWidget(buttonRow_->count() - 1, w);
+    // Next to the run buttons while they fit; a language with long labels
+    // would otherwise force the whole window wider than a laptop screen, so
+    // the extra buttons take the right end of a row of their own.
+    if (!extraRow_) {
+        extraRow_ = new QHBoxLayout;
+        extraRow_->addStretch(1);
+        auto* outer = static_cast<QVBoxLayout*>(layout());
+        outer->insertLayout(outer->indexOf(progress_), extraRow_);
+    }
+    extraRow_->addWidget(w);
 }

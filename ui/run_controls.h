@@ -20,7 +20,7 @@ public:
     bool verbose() const;
     void setVerbose(bool on);
     void setRunning(bool running);
-    // Puts `w` at the end of the button row (after the log switches).
+    // Adds `w` to the bottom row of buttons (after the log switches).
     void addToButtonRow(QWidget* w);
 
 signals:
@@ -29,6 +29,7 @@ signals:
 
 private:
     QHBoxLayout* buttonRow_ = nullptr;
+    QHBoxLayout* extraRow_ = nullptr;
     QPushButton* start_ = nullptr;
     QPushButton* stop_ = nullptr;
     QCheckBox* verbose_ = nullptr;

@@ -7,14 +7,14 @@
 
 namespace {
 
-zuvo::eq::BandSpec specOf(const EqBand& band)
+zuvo::eq::BandSpec designOf(const EqBand& band)
 {
-    zuvo::eq::BandSpec spec;
-    spec.centerHz = band.centerFreq;
-    spec.gainDb = band.gainDB;
-    spec.bandwidth = band.bandwidth;
-    spec.unit = band.bwType;
-    return spec;
+    zuvo::eq::BandSpec design;
+    design.centerHz = band.centerFreq;
+    design.gainDb = band.gainDB;
+    design.bandwidth = band.bandwidth;
+    design.unit = band.bwType;
+    return design;
 }
 
 } // namespace
@@ -22,7 +22,7 @@ zuvo::eq::BandSpec specOf(const EqBand& band)
 double eqBandDb(const QList<EqBand>& bands, int index, double hz, double sampleRate)
 {
     const zuvo::eq::BandKind kind = zuvo::eq::bandKindAt(index, int(bands.size()));
-    const zuvo::eq::Biquad q = zuvo::eq::designBand(specOf(bands[index]), kind, sampleRate);
+    const zuvo::eq::Biquad q = zuvo::eq::designBand(designOf(bands[index]), kind, sampleRate);
     return zuvo::eq::magnitudeDb(q, hz, sampleRate);
 }
 
@@ -35,7 +35,7 @@ EqCurve computeEqCurve(const QList<EqBand>& bands, double precutDb, int points, 
     for (int i = 0; i < points; ++i)
         curve.freqs.append(std::exp(lo + (hi - lo) * i / (points - 1)));
     for (const EqBand& band : bands) {
-        const double q = zuvo::eq::bandQ(specOf(band), sampleRate);
+        const double q = zuvo::eq::bandQ(designOf(band), sampleRate);
         const double f0 = band.centerFreq;
         for (double f : {f0, f0 * (1.0 - 0.5 / q), f0 * (1.0 + 0.5 / q)}) {
             if (f > kEqCurveMinHz && f < kEqCurveMaxHz)
@@ -47,7 +47,7 @@ EqCurve computeEqCurve(const QList<EqBand>& bands, double precutDb, int points, 
     curve.sumDb = QVector<double>(curve.freqs.size(), precutDb);
     for (int b = 0; b < bands.size(); ++b) {
         const zuvo::eq::BandKind kind = zuvo::eq::bandKindAt(b, int(bands.size()));
-        const zuvo::eq::Biquad q = zuvo::eq::designBand(specOf(bands[b]), kind, sampleRate);
+        const zuvo::eq::Biquad q = zuvo::eq::designBand(designOf(bands[b]), kind, sampleRate);
         QVector<double> db(curve.freqs.size());
         for (int i = 0; i < curve.freqs.size(); ++i) {
             db[i] = zuvo::eq::magnitudeDb(q, curve.freqs[i], sampleRate);

@@ -6,18 +6,9 @@
 #include "dst/crc32.h"
 #include "dst/dst_decoder.h"
 #include "dst/dst_frame.h"
+#include "io/be_fields.h"
 
 namespace zuvo::io {
-
-namespace {
-std::uint64_t be(const std::uint8_t* p, int n)
-{
-    std::uint64_t v = 0;
-    for (int i = 0; i < n; ++i)
-        v = (v << 8) | p[i];
-    return v;
-}
-} // namespace
 
 bool DffDstSource::chunkHeader(std::uint64_t at, char id[4], std::uint64_t& size)
 {

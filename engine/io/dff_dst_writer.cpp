@@ -8,21 +8,13 @@
 #include "dst/dst_encoder.h"
 #include "dst/dst_frame.h"
 #include "io/bit_order.h"
+#include "io/be_fields.h"
 
 namespace zuvo::io {
 
 namespace {
 using Bytes = std::vector<std::uint8_t>;
 
-void putBE(Bytes& b, std::uint64_t v, int n)
-{
-    for (int i = n - 1; i >= 0; --i)
-        b.push_back(static_cast<std::uint8_t>(v >> (8 * i)));
-}
-void putId(Bytes& b, const char* id)
-{
-    b.insert(b.end(), id, id + 4);
-}
 } // namespace
 
 bool DffDstSink::start(int channels, int dsdRate, int level, std::string* error)

@@ -8,16 +8,11 @@
 #include <cstring>
 #include <limits>
 
+#include "io/be_fields.h"
+
 namespace zuvo::io {
 
 namespace {
-std::uint64_t be(const std::uint8_t* p, int n)
-{
-    std::uint64_t v = 0;
-    for (int i = 0; i < n; ++i)
-        v = (v << 8) | p[i];
-    return v;
-}
 
 std::string idText(const char* id)
 {

@@ -10,24 +10,13 @@
 #include <ctime>
 
 #include "io/bit_order.h"
+#include "io/be_fields.h"
 
 namespace zuvo::io {
 
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-void putBE(Bytes& b, std::uint64_t v, int n)
-{
-    for (int i = n - 1; i >= 0; --i)
-        b.push_back(static_cast<std::uint8_t>(v >> (8 * i)));
-}
-
-void putId(Bytes& b, const char* id)
-{
-    for (int i = 0; i < 4; ++i)
-        b.push_back(static_cast<std::uint8_t>(id[i]));
-}
 
 // A chunk: id, 8-byte size, body, pad byte to an even length.
 void putChunk(Bytes& b, const char* id, const Bytes& body)

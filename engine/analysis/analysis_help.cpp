@@ -10,7 +10,7 @@ void printAnalysisHelp(std::FILE* out)
         "                         after 'file,integrated_lufs,lra_lu,true_peak_dbtp,plr_db' (two decimals,\n"
         "                         '.' whatever the locale; silence gives -inf, and nan for the PLR).\n"
         "                         Several inputs allowed; a given .dsf/.dff output is left untouched\n"
-        "  --lufs X               normalise to X LUFS integrated (-70 to -5), measured in a first pass\n"
+        "  --lufs X               normalise to X LUFS integrated (-70 to 0), measured in a first pass\n"
         "                         after the effects; holds for the DSD output itself. The true peak stays\n"
         "                         at or below -1 dBTP and the modulator's stable level less 1 dB: when the\n"
         "                         target would pass it, the gain is lowered (said on standard error) and\n"

@@ -20,7 +20,7 @@ struct AnalysisOptions {
 };
 
 constexpr double kLufsLowest = -70.0;
-constexpr double kLufsHighest = -5.0;
+constexpr double kLufsHighest = 0.0;
 
 // Takes the option at args[i] (and its values, moving i past them) when it
 // is one of the above; bad values go to `errors`. False: not ours.

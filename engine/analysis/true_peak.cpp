@@ -33,12 +33,15 @@ TruePeak::TruePeak(int sampleRate)
 {
     const auto L = static_cast<std::size_t>(factor_);
     const std::size_t total = L * taps_;
-    const double centre = (static_cast<double>(total) - 1) / 2;
+    // An integer centre puts one phase exactly on the input samples and the
+    // others at exact quarter (half) sample offsets; the window spans
+    // total + 1 points, whose last one (zero) is dropped.
+    const double centre = static_cast<double>(total) / 2;
     std::vector<double> h(total);
     for (std::size_t n = 0; n < total; ++n) {
         const double t = (static_cast<double>(n) - centre) / static_cast<double>(L);
         const double sinc = t == 0 ? kCutoff : std::sin(M_PI * kCutoff * t) / (M_PI * t);
-        const double r = (static_cast<double>(n) - centre) / (centre + 1);
+        const double r = (static_cast<double>(n) - centre) / centre;
         h[n] = sinc * besselI0(kKaiserBeta * std::sqrt(std::max(0.0, 1 - r * r))) / besselI0(kKaiserBeta);
     }
     // Phase p holds taps n = p + L k; each phase sums to one (unity gain at DC).

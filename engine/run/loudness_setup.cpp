@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
+#include "analysis/band_limit.h"
 #include "analysis/loudness_plan.h"
 #include "analysis/number_text.h"
 #include "run/exit_codes.h"
@@ -33,6 +35,24 @@ LoudnessSetup prepareLoudness(RunContext& ctx, const std::string& input, const s
     }
     // Restoration stages, when present, go in front of the effects here
     // (thenPath) so that the measurement sees what the modulator sees.
+    // The interpolation filter then drops what lies above its pass band:
+    // the measurement drops it too, or full-band material would land low.
+    const dsp::FirOptions& fir = ctx.options.fir;
+    const analysis::PassBand band = analysis::conversionPassBand(sampleRate, fir.passbandHz, fir.stopbandHz,
+        fir.highBandwidth, fir.slowRollOff, fir.algorithm == dsp::FilterAlgorithm::Remez);
+    if (band.passHz < 0.495 * sampleRate) {
+        auto filters = std::make_shared<std::vector<analysis::BandLimit>>(
+            static_cast<std::size_t>(path->outChannels), analysis::BandLimit(sampleRate, band.passHz, band.stopHz));
+        PreModulatorPath limit;
+        limit.outChannels = path->outChannels;
+        limit.run = [filters](Planar& p, std::size_t n) {
+            for (std::size_t c = 0; c < filters->size() && c < p.size(); ++c)
+                (*filters)[c].process(p[c].data(), n);
+            return n;
+        };
+        limit.drain = [](Planar&) { return std::size_t{0}; };
+        *path = thenPath(std::move(*path), std::move(limit));
+    }
     const FirstPass pass = measurePreModulator(ctx, input, source, outLayout, *path, 50.0);
     if (pass.exitCode) {
         setup.exitCode = pass.exitCode;

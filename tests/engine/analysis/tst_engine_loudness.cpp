@@ -71,6 +71,7 @@ private slots:
     void measureSilenceAndLocale();
     void lufsLandsOnTarget();
     void lufsKeepsTheTruePeakCeiling();
+    void lufsMeasuresAfterTheEffects();
     void replayGainTagsInDsf();
     void replayGainTagsInDff();
     void stopLossy();
@@ -240,6 +241,24 @@ void EngineLoudnessTest::lufsKeepsTheTruePeakCeiling()
     QVERIFY2(got.integrated < -14.5, qPrintable(QString::number(got.integrated)));
     QVERIFY2(std::fabs(got.integrated - m.captured(1).toDouble()) <= 0.2, qPrintable(QString::number(got.integrated)));
     QVERIFY2(got.truePeak <= -6.8, qPrintable(QString::number(got.truePeak)));
+}
+
+void EngineLoudnessTest::lufsMeasuresAfterTheEffects()
+{
+    // +9 dB at 3 kHz changes the loudness; the target holds for the output
+    // all the same, so the measuring pass must run the equaliser too.
+    const QString in = dir_.filePath("eq.wav");
+    writePcm(in, 48000, 2, 48000 * 5, SF_FORMAT_WAV | SF_FORMAT_PCM_24, [](long i, int c) {
+        const double t = i / 48000.0;
+        return 0.1 * (std::sin(2 * M_PI * 3000 * t + c) + 0.7 * std::sin(2 * M_PI * 300 * t)) * std::min(1.0, t / 0.01);
+    });
+    const QString out = dir_.filePath("eq.dsf");
+    const RunResult r = runEngine({"--eq-presence", "9", "--lufs", "-20", "-i", in, out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY2(!r.err.contains("lowered"), qPrintable(r.err));
+    const Ebur128 got = ffmpegLoudness(out, 88200);
+    QVERIFY(got.ok);
+    QVERIFY2(std::fabs(got.integrated + 20.0) <= 0.15, qPrintable(QString::number(got.integrated)));
 }
 
 void EngineLoudnessTest::replayGainTagsInDsf()

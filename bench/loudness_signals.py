@@ -31,7 +31,7 @@ def shaped_noise(n, rate, rng, slope_db_per_oct=-3.0, lowpass=None, order=None):
     """Gaussian noise with a spectral slope (pink: -3 dB/octave), optionally
     low-passed: a brick wall (order None) or a gentle Butterworth-like
     magnitude of the given order."""
-    spec = rng.standard_normal(n // 2 + 1) + 1j * rng.standard_normal(n // 2 + 1)
+    bins = rng.standard_normal(n // 2 + 1) + 1j * rng.standard_normal(n // 2 + 1)
     f = np.fft.rfftfreq(n, 1.0 / rate)
     f[0] = f[1]
     mag = (f / 1000.0) ** (slope_db_per_oct / (20 * np.log10(2)))
@@ -41,7 +41,7 @@ def shaped_noise(n, rate, rng, slope_db_per_oct=-3.0, lowpass=None, order=None):
             mag[f > lowpass] = 0
         else:
             mag /= np.sqrt(1 + (f / lowpass) ** (2 * order))
-    x = np.fft.irfft(spec * mag, n)
+    x = np.fft.irfft(bins * mag, n)
     return x / np.sqrt(np.mean(x ** 2))
 
 

@@ -216,7 +216,7 @@ int runForward(RunContext& ctx)
     std::vector<std::vector<double>> planar(channels);
     std::vector<std::vector<std::uint8_t>> bytes(static_cast<std::size_t>(outChannels));
     std::vector<ChannelLevel> levels(channels);
-    InputAnalysis inputAnalysis(o, in.channels, in.sampleRate, in.layout);
+    InputAnalysis inputAnalysis(o, in.channels, in.sampleRate, writtenLayout(in.layout, order));
     // The measuring pass took the first half of the progress.
     const double progressBase = loudness.measured ? 50.0 : 0.0;
     std::vector<std::uint64_t> nonFinite(channels, 0);

@@ -92,6 +92,39 @@ int main(int argc, char** argv)
             std::printf("\n");
         }
 
+    std::vector<double> pink = pinkNoise(n, -50.0, 4);
+    addSine(pink, 1000.0, -20.0 + 3.0103, kFs);
+    std::printf("\n1 kHz at -20 dBFS + pink noise at -50 dBFS: SNR change in dB\n");
+    for (const Row& r : rows) {
+        SpectralDenoiser d = make(configFor(r.mode), 1);
+        const auto y = runAligned(d, {pink}, 4096)[0];
+        std::printf("%-9s %10.2f\n", r.name, snrDb(y, 1000.0, kFs, from, n) - snrDb(pink, 1000.0, kFs, from, n));
+    }
+
+    // White noise 10 dB louder from 4 s on: how fast the floor follows.
+    if (seconds >= 8.0) {
+        std::vector<double> step = whiteNoise(n, -60.0, 5);
+        const auto at = static_cast<std::size_t>(4.0 * kFs);
+        for (std::size_t i = at; i < n; ++i)
+            step[i] *= dbToAmp(10.0);
+        std::printf("\nwhite noise -60 dBFS, then -50 dBFS from 4 s: noise change in dB after the step\n");
+        std::printf("%-9s %10s %10s %10s %10s\n", "mode", "0-0.5 s", "0.5-1 s", "1-1.5 s", "1.5-2 s");
+        for (const Row& r : rows) {
+            SpectralDenoiser d = make(configFor(r.mode), 1);
+            const auto y = runAligned(d, {step}, 4096)[0];
+            std::printf("%-9s", r.name);
+            for (int q = 0; q < 4; ++q) {
+                double a = 0, b = 0;
+                for (std::size_t i = at + q * 22050; i < at + (q + 1) * 22050; ++i) {
+                    a += step[i] * step[i];
+                    b += y[i] * y[i];
+                }
+                std::printf(" %10.2f", 10.0 * std::log10(b / a));
+            }
+            std::printf("\n");
+        }
+    }
+
     std::printf("\nCPU, 44.1 kHz stereo, blocks of 4096:\n");
     std::vector<std::vector<double>> stereo = {toneIn, harm};
     for (const Row& r : rows)

@@ -14,6 +14,11 @@ constexpr double kDecisionWeight = 0.98;
 // kKneeHigh it is the full Wiener gain, linear in between.
 constexpr double kKneeLow = 0.3, kKneeHigh = 1.0;
 constexpr double kProtectRelease = 0.5; // per frame
+// A frame any quarter of which is quieter than this (-140 dBFS RMS) holds
+// digital silence (before the first note, after the last), not the noise to
+// remove: it leaves the noise floor alone, or the floor would sit at the
+// silence for the next 1.5 s.
+constexpr double kSilentPower = 1e-14;
 
 } // namespace
 
@@ -79,7 +84,14 @@ void SpectralChannel::frame()
 void SpectralChannel::computeGains()
 {
     const std::size_t bins = s_.bins;
-    const std::vector<double>& lambda = noise_.update(power_);
+    bool silent = false;
+    for (std::size_t q = 0; q < 4 && !silent; ++q) {
+        double sum = 0;
+        for (std::size_t i = q * s_.hop; i < (q + 1) * s_.hop; ++i)
+            sum += in_[i] * in_[i];
+        silent = sum < kSilentPower * static_cast<double>(s_.hop);
+    }
+    const std::vector<double>& lambda = silent ? noise_.floor() : noise_.update(power_);
     for (std::size_t k = 0; k < bins; ++k) {
         const double g = power_[k] / lambda[k];
         const double xi = kDecisionWeight * prevClean_[k] / lambda[k]
@@ -103,7 +115,7 @@ void SpectralChannel::computeGains()
         return;
     for (double& p : protect_)
         p *= kProtectRelease;
-    const HarmonicResult partials = findProtectedPartials(gamma_, s_.binHz);
+    const HarmonicResult partials = findProtectedPartials(gamma_, s_.binHz, peaks_, lastF0_);
     for (std::size_t c : partials.centres)
         for (std::size_t k = c > 0 ? c - 1 : 0; k <= std::min(bins - 1, c + 1); ++k)
             protect_[k] = 1.0;

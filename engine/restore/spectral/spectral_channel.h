@@ -35,6 +35,8 @@ private:
     std::vector<double> in_, acc_, ready_;
     std::size_t fill_ = 0; // next write position in in_, from frame - hop to frame
     std::vector<double> power_, gamma_, prevClean_, gain_, smoothed_, protect_;
+    std::vector<unsigned char> peaks_; // the previous frame's spectral peaks
+    double lastF0_ = 0;                // and its fundamental, 0 for none
 };
 
 } // namespace zuvo::restore

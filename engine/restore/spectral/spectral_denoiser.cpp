@@ -118,13 +118,14 @@ bool SpectralDenoiser::configure(const SpectralConfig& c, int channels, double f
     s->bins = frame_ / 2 + 1;
     s->binHz = fs / static_cast<double>(frame_);
     s->window.resize(frame_);
-    for (std::size_t i = 0; i < frame_; ++i)
+    for (std::size_t i = 0; i < frame_; ++i) {
         s->window[i] = std::sin(M_PI * static_cast<double>(i) / static_cast<double>(frame_));
+    }
     s->floorGain.resize(s->bins);
     for (std::size_t k = 0; k < s->bins; ++k)
         s->floorGain[k] = floorGain(static_cast<double>(k) * s->binHz);
     s->noise = noiseTrackerSetup(s->bins, s->hop, fs);
-    s->noise.bias = measureTrackerBias(s->noise, s->window, s->hop);
+    calibrateTracker(s->noise, s->window, s->hop);
     s->keepHarmonics = c.keepHarmonics;
     setup_ = std::move(s);
     for (int i = 0; i < channels; ++i)

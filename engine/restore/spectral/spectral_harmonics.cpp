@@ -15,6 +15,7 @@ constexpr int kMaxDivisor = 6;
 constexpr double kMinF0 = 40.0, kMaxF0 = 2000.0;
 constexpr int kMinMatches = 4;
 constexpr int kMaxHarmonic = 64;
+constexpr double kSameF0 = 0.03; // relative: the same note in the next frame
 const double kMissPenalty = 0.5 * std::log(4.0);
 
 struct Peak {
@@ -54,16 +55,24 @@ int peakNear(const std::vector<Peak>& peaks, double bin)
 
 } // namespace
 
-HarmonicResult findProtectedPartials(const std::vector<double>& gamma, double binHz)
+HarmonicResult findProtectedPartials(const std::vector<double>& gamma, double binHz,
+                                     std::vector<unsigned char>& previous, double& previousF0)
 {
     HarmonicResult r;
     const std::vector<Peak> peaks = pickPeaks(gamma);
-    for (const Peak& p : peaks)
-        if (p.gamma > kStrongGamma)
-            r.centres.push_back(p.centre);
-    if (peaks.size() < static_cast<std::size_t>(kMinMatches)) {
-        return r;
+    previous.resize(gamma.size(), 0);
+    for (const Peak& p : peaks) {
+        const std::size_t c = p.centre; // 2 <= c < size - 2
+        if (p.gamma > kStrongGamma && (previous[c - 1] || previous[c] || previous[c + 1]))
+            r.centres.push_back(c);
     }
+    std::fill(previous.begin(), previous.end(), 0);
+    for (const Peak& p : peaks)
+        previous[p.centre] = 1;
+    const double lastF0 = previousF0;
+    previousF0 = 0;
+    if (peaks.size() < static_cast<std::size_t>(kMinMatches))
+        return r;
     std::vector<Peak> strongest = peaks;
     std::sort(strongest.begin(), strongest.end(), [](const Peak& a, const Peak& b) { return a.gamma > b.gamma; });
     strongest.resize(std::min(strongest.size(), kCandidatePeaks));
@@ -96,7 +105,10 @@ HarmonicResult findProtectedPartials(const std::vector<double>& gamma, double bi
         }
     if (bestF0 <= 0)
         return r;
-    r.fundamentalHz = bestF0 * binHz;
+    previousF0 = bestF0 * binHz;
+    if (!(std::fabs(previousF0 - lastF0) <= std::max(binHz, kSameF0 * lastF0)))
+        return r;
+    r.fundamentalHz = previousF0;
     for (int h = 1; h <= bestTop + 1 && h * bestF0 < lastBin - 2; ++h) {
         const double pos = h * bestF0;
         const int q = peakNear(peaks, pos);

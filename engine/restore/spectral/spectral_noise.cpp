@@ -17,6 +17,7 @@ constexpr std::size_t kSubWindows = 8;
 constexpr std::size_t kMedianHalf = 16;
 constexpr std::size_t kMedianStep = 4;   // median computed every 4 bins, interpolated between
 constexpr double kTiny = 1e-300;
+constexpr double kPeakOverMedian = 4.0; // 6 dB
 
 } // namespace
 
@@ -29,6 +30,7 @@ NoiseTrackerSetup noiseTrackerSetup(std::size_t bins, std::size_t hop, double fs
     s.subWindows = kSubWindows;
     s.subLength = std::max<std::size_t>(1, static_cast<std::size_t>(std::ceil(frames / kSubWindows)));
     s.medianHalf = kMedianHalf;
+    s.peakOverMedian = kPeakOverMedian;
     return s;
 }
 
@@ -43,8 +45,11 @@ NoiseTracker::NoiseTracker(const NoiseTrackerSetup& s)
 void NoiseTracker::runningMedian()
 {
     const std::size_t n = s_.bins;
-    const std::size_t half = s_.medianHalf;
+    // Half width k / 2 at the lowest bins (so a steep low-frequency slope is
+    // not flattened), s_.medianHalf above.
+    auto halfAt = [&](std::size_t k) { return std::clamp<std::size_t>(k / 2, 2, s_.medianHalf); };
     auto medianAt = [&](std::size_t k) {
+        const std::size_t half = halfAt(k);
         // Near the ends the window slides inwards rather than shrinking.
         std::size_t lo = k > half ? k - half : 0;
         std::size_t hi = std::min(n, lo + 2 * half + 1);
@@ -55,9 +60,13 @@ void NoiseTracker::runningMedian()
         std::nth_element(scratch_.begin(), mid, scratch_.end());
         return *mid;
     };
-    std::size_t prevK = 0;
-    double prevV = medianAt(0);
-    median_[0] = prevV;
+    // Exact below where the width stops growing, every kMedianStep bins above
+    // (linear in between).
+    const std::size_t exact = std::min(n, 2 * s_.medianHalf);
+    for (std::size_t k = 0; k < exact; ++k)
+        median_[k] = medianAt(k);
+    std::size_t prevK = exact - 1;
+    double prevV = median_[prevK];
     while (prevK + 1 < n) {
         const std::size_t k = std::min(n - 1, prevK + kMedianStep);
         const double v = medianAt(k);
@@ -68,19 +77,33 @@ void NoiseTracker::runningMedian()
         prevK = k;
         prevV = v;
     }
+    // A bin far above its neighbourhood is a tone or a partial: the noise
+    // under it is taken to be the neighbourhood's. Elsewhere the bin's own
+    // power is kept, so the shape of coloured noise is kept too. The two
+    // lowest bins (DC and the one next to it) always keep their own: there the
+    // neighbourhood is too short to tell a peak from the slope of 1/f noise.
+    for (std::size_t k = 0; k < n; ++k)
+        if (k >= 2 && smooth_[k] > s_.peakOverMedian * median_[k])
+            median_[k] *= s_.medianScale;
+        else
+            median_[k] = smooth_[k];
 }
 
 const std::vector<double>& NoiseTracker::update(const std::vector<double>& power)
 {
     const std::size_t n = s_.bins;
-    if (first_) {
-        smooth_ = power;
-        first_ = false;
-    } else {
-        const double a = s_.smoothing;
-        for (std::size_t k = 0; k < n; ++k)
-            smooth_[k] = a * smooth_[k] + (1.0 - a) * power[k];
-    }
+    // A plain running mean until the one-pole's own memory is reached, so the
+    // first frames are averaged as well as the later ones.
+    const double a = std::min(s_.smoothing, static_cast<double>(frames_) / static_cast<double>(frames_ + 1));
+    for (std::size_t k = 0; k < n; ++k)
+        smooth_[k] = a * smooth_[k] + (1.0 - a) * power[k];
+    // Until then nothing is known about the noise: no minimum is kept and the
+    // floor stays negligible, so the first ~90 ms pass unchanged rather than
+    // a poorly averaged frame setting the floor for the next 1.5 s.
+    const bool warm = static_cast<double>(frames_) + 1.0 >= 1.0 / (1.0 - s_.smoothing);
+    ++frames_;
+    if (!warm)
+        return floor_;
     runningMedian();
     for (std::size_t k = 0; k < n; ++k)
         current_[k] = std::min(current_[k], median_[k]);
@@ -99,11 +122,14 @@ const std::vector<double>& NoiseTracker::update(const std::vector<double>& power
     return floor_;
 }
 
-double measureTrackerBias(const NoiseTrackerSetup& setup, const std::vector<double>& window, std::size_t hop)
+namespace {
+
+double measureBias(const NoiseTrackerSetup& setup, const std::vector<double>& window, std::size_t hop)
 {
     const std::size_t n = window.size();
     NoiseTrackerSetup s = setup;
     s.bias = 1.0;
+    s.medianScale = 1.0;
     NoiseTracker tracker(s);
     RealFft fft(n);
     // Deterministic Gaussian noise (xorshift + Box-Muller): the same factor on
@@ -151,6 +177,21 @@ double measureTrackerBias(const NoiseTrackerSetup& setup, const std::vector<doub
     if (count == 0 || !(sum > 0))
         return 1.0;
     return expected / (sum / static_cast<double>(count));
+}
+
+} // namespace
+
+void calibrateTracker(NoiseTrackerSetup& s, const std::vector<double>& window, std::size_t hop)
+{
+    // The two paths fluctuate differently, so their minima are biased
+    // differently: each is measured on its own (every bin through its own
+    // power, then every bin through the median).
+    NoiseTrackerSetup own = s, median = s;
+    own.peakOverMedian = std::numeric_limits<double>::infinity();
+    median.peakOverMedian = 0.0;
+    const double biasOwn = measureBias(own, window, hop), biasMedian = measureBias(median, window, hop);
+    s.bias = biasOwn;
+    s.medianScale = biasMedian / biasOwn;
 }
 
 } // namespace zuvo::restore

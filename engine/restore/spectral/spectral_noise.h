@@ -15,6 +15,8 @@ struct NoiseTrackerSetup {
     std::size_t subWindows = 8;
     std::size_t subLength = 1;   // frames per sub-window
     std::size_t medianHalf = 16; // bins each side of the running median
+    double peakOverMedian = 4.0; // a bin this far above the median is a peak
+    double medianScale = 1.0;    // a peak bin is tracked as median * medianScale
     double bias = 1.0;           // multiplies the tracked minimum
 };
 
@@ -26,20 +28,22 @@ public:
     explicit NoiseTracker(const NoiseTrackerSetup& s = {});
     // power: |X|^2 of one frame, `bins` values. Returns the floor per bin.
     const std::vector<double>& update(const std::vector<double>& power);
+    // The last floor, for frames that must not move it.
+    const std::vector<double>& floor() const { return floor_; }
 
 private:
     void runningMedian();
 
     NoiseTrackerSetup s_;
-    bool first_ = true;
+    std::size_t frames_ = 0;
     std::vector<double> smooth_, median_, current_, floor_, scratch_;
     std::vector<std::vector<double>> subMin_; // ring of sub-window minima
     std::size_t inSub_ = 0, ring_ = 0;
 };
 
-// The factor that makes the tracker unbiased on white noise: the windowed
-// frames of unit white noise have mean power sum(w^2); the tracker's mean
-// output on 4 s of such noise is measured and the ratio returned.
-double measureTrackerBias(const NoiseTrackerSetup& s, const std::vector<double>& window, std::size_t hop);
+// Sets bias and medianScale so that the tracker is unbiased on white noise:
+// the windowed frames of unit white noise have mean power sum(w^2); the
+// tracker's mean output on 4 s of such noise is measured through each path.
+void calibrateTracker(NoiseTrackerSetup& s, const std::vector<double>& window, std::size_t hop);
 
 } // namespace zuvo::restore

@@ -48,6 +48,29 @@ inline std::vector<double> whiteNoise(std::size_t n, double rmsDb, std::uint64_t
     return out;
 }
 
+// Pink noise (Kellet's filter on white noise) scaled to an RMS in dBFS.
+inline std::vector<double> pinkNoise(std::size_t n, double rmsDb, std::uint64_t seed)
+{
+    std::vector<double> v = whiteNoise(n, 0.0, seed);
+    double b0 = 0, b1 = 0, b2 = 0, b3 = 0, b4 = 0, b5 = 0, b6 = 0, e = 0;
+    for (double& x : v) {
+        const double w = x;
+        b0 = 0.99886 * b0 + w * 0.0555179;
+        b1 = 0.99332 * b1 + w * 0.0750759;
+        b2 = 0.96900 * b2 + w * 0.1538520;
+        b3 = 0.86650 * b3 + w * 0.3104856;
+        b4 = 0.55000 * b4 + w * 0.5329522;
+        b5 = -0.7616 * b5 - w * 0.0168980;
+        x = b0 + b1 + b2 + b3 + b4 + b5 + b6 + w * 0.5362;
+        b6 = w * 0.115926;
+        e += x * x;
+    }
+    const double k = dbToAmp(rmsDb) / std::sqrt(e / static_cast<double>(n));
+    for (double& x : v)
+        x *= k;
+    return v;
+}
+
 // Peak amplitude of a sine from its dBFS level (0 dBFS = amplitude 1).
 inline void addSine(std::vector<double>& x, double hz, double levelDb, double fs, double phase = 0.0)
 {

@@ -67,6 +67,7 @@ private slots:
     void noiseOnlyLeavesNoTonalResidue_data();
     void noiseOnlyLeavesNoTonalResidue();
     void keepHarmonicsHoldsPartials();
+    void digitalSilenceBeforeNoiseDoesNotBlindTheFloor();
     void blockSizeDoesNotChangeOutput_data();
     void blockSizeDoesNotChangeOutput();
     void silenceStaysSilentAndFinite();
@@ -162,6 +163,7 @@ void TestSpectralDenoiser::tiersImproveSnr()
     SpectralDenoiser d = make(config(Mode(mode), keep));
     const auto y = runAligned(d, {x}, 4096)[0];
     const double before = snrDb(x, 1000.0, kFs, from, n), after = snrDb(y, 1000.0, kFs, from, n);
+    qInfo("SNR %.2f -> %.2f dB (%+.2f)", before, after, after - before);
     QVERIFY(std::fabs(before - 30.0) < 0.5); // the signal is what it claims to be
     QVERIFY2(after - before >= atLeastDb,
              qPrintable(QString("SNR %1 -> %2 dB (+%3)").arg(before).arg(after).arg(after - before)));
@@ -173,20 +175,29 @@ void TestSpectralDenoiser::tiersImproveSnr()
 void TestSpectralDenoiser::noiseOnlyLeavesNoTonalResidue_data()
 {
     QTest::addColumn<int>("mode");
-    QTest::newRow("light") << int(Mode::Light);
-    QTest::newRow("standard") << int(Mode::Standard);
-    QTest::newRow("deep") << int(Mode::Deep);
-    QTest::newRow("wiener") << int(Mode::Wiener);
+    QTest::addColumn<bool>("keep");
+    QTest::addColumn<bool>("pink");
+    QTest::newRow("light") << int(Mode::Light) << false << false;
+    QTest::newRow("standard") << int(Mode::Standard) << false << false;
+    QTest::newRow("deep") << int(Mode::Deep) << false << false;
+    QTest::newRow("wiener") << int(Mode::Wiener) << false << false;
+    QTest::newRow("standard, keep harmonics") << int(Mode::Standard) << true << false;
+    QTest::newRow("deep, keep harmonics") << int(Mode::Deep) << true << false;
+    QTest::newRow("standard, pink noise") << int(Mode::Standard) << false << true;
+    QTest::newRow("deep, keep harmonics, pink noise") << int(Mode::Deep) << true << true;
 }
 
 void TestSpectralDenoiser::noiseOnlyLeavesNoTonalResidue()
 {
     QFETCH(int, mode);
+    QFETCH(bool, keep);
+    QFETCH(bool, pink);
     const std::size_t n = static_cast<std::size_t>(5 * kFs);
-    const std::vector<double> x = whiteNoise(n, -50.0, 31);
-    SpectralDenoiser d = make(config(Mode(mode)));
+    const std::vector<double> x = pink ? pinkNoise(n, -50.0, 32) : whiteNoise(n, -50.0, 31);
+    SpectralDenoiser d = make(config(Mode(mode), keep));
     const auto y = runAligned(d, {x}, 777)[0];
     const Residue r = musicalResidue(d, x, y, kFs, static_cast<std::size_t>(2 * kFs));
+    qInfo("residue: per frame %.1f dBFS, averaged %.1f dBFS", r.framePeakDb, r.averagePeakDb);
     QVERIFY2(r.framePeakDb < -90.0, qPrintable(QString("per-frame residue %1 dBFS").arg(r.framePeakDb)));
     QVERIFY2(r.averagePeakDb < -90.0, qPrintable(QString("averaged residue %1 dBFS").arg(r.averagePeakDb)));
     // And the noise really went down to about the floor (not muted, not kept).
@@ -216,6 +227,28 @@ void TestSpectralDenoiser::keepHarmonicsHoldsPartials()
     // Without protection the weakest partials lose level.
     QVERIFY2(partialChange(false, 10) < -1.0, "the plain tier is expected to attenuate the 10th harmonic");
     QVERIFY2(partialChange(false, 9) < -0.7, "the plain tier is expected to attenuate the 9th harmonic");
+}
+
+void TestSpectralDenoiser::digitalSilenceBeforeNoiseDoesNotBlindTheFloor()
+{
+    // A track that starts with 1 s of digital silence: the noise after it is
+    // turned down within half a second, not only once the silence has left
+    // the 1.5 s window.
+    const std::size_t n = static_cast<std::size_t>(3 * kFs), start = static_cast<std::size_t>(kFs);
+    std::vector<double> x = whiteNoise(n, -50.0, 61);
+    std::fill(x.begin(), x.begin() + static_cast<std::ptrdiff_t>(start), 0.0);
+    SpectralDenoiser d = make(config(Mode::Standard));
+    const auto y = runAligned(d, {x}, 4096)[0];
+    double in = 0, out = 0;
+    for (std::size_t i = start + static_cast<std::size_t>(0.5 * kFs); i < start + static_cast<std::size_t>(1.5 * kFs); ++i) {
+        in += x[i] * x[i];
+        out += y[i] * y[i];
+    }
+    const double dropDb = 10.0 * std::log10(out / in);
+    qInfo("noise 0.5-1.5 s after the silence: %.2f dB", dropDb);
+    QVERIFY2(dropDb < -15.0, qPrintable(QString("noise after the silence: %1 dB").arg(dropDb)));
+    for (std::size_t i = 0; i < start - d.latency(); ++i)
+        QCOMPARE(y[i], 0.0);
 }
 
 void TestSpectralDenoiser::blockSizeDoesNotChangeOutput_data()

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "cli/option_values.h"
-#include "restore/spectral/spectral_text.h"
 
 namespace zuvo::restore {
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "restore/spectral/spectral_channel.h"
+#include "restore/spectral/spectral_config.h"
 #include "restore/spectral/spectral_text.h"
 
 namespace zuvo::restore {
@@ -13,7 +14,6 @@ namespace {
 constexpr double kLightFloorDb = -12.0;
 constexpr double kStandardFloorDb = -18.0;
 constexpr double kDeepBestDb = -20.0, kDeepSpanDb = 10.0;
-constexpr double kMinFrameMs = 5.0, kMaxFrameMs = 500.0;
 constexpr std::size_t kMinFrame = 64;
 
 // Terhardt's threshold of hearing in dB SPL, f in Hz.
@@ -85,28 +85,9 @@ bool SpectralDenoiser::configure(const SpectralConfig& c, int channels, double f
     channels_.clear();
     setup_.reset();
     frame_ = 0;
-    if (channels < 1 || channels > 64) {
-        error = "spectral denoiser: unsupported channel count " + std::to_string(channels);
+    if (!checkSpectralConfig(c, channels, fs, error))
         return false;
-    }
-    if (!(fs >= 4000.0 && fs <= 1e7)) {
-        error = "spectral denoiser: unsupported sample rate " + formatNumber(fs, 0) + " Hz";
-        return false;
-    }
-    const bool wiener = c.mode == SpectralConfig::Mode::Wiener;
-    const double frameMs = wiener ? c.frameMs : kTierFrameMs;
-    if (!(frameMs >= kMinFrameMs && frameMs <= kMaxFrameMs)) {
-        error = "spectral denoiser: frame length must be from 5 to 500 ms";
-        return false;
-    }
-    if (wiener && !(c.floorDb >= -60.0 && c.floorDb <= 0.0)) {
-        error = "spectral denoiser: Wiener floor must be from -60 to 0 dB";
-        return false;
-    }
-    if (c.mode == SpectralConfig::Mode::Reduce && !(c.reduceDb >= 1.0 && c.reduceDb <= 40.0)) {
-        error = "spectral denoiser: noise reduction must be from 1 to 40 dB";
-        return false;
-    }
+    const double frameMs = c.mode == SpectralConfig::Mode::Wiener ? c.frameMs : kTierFrameMs;
     config_ = c;
     config_.frameMs = frameMs;
     fs_ = fs;

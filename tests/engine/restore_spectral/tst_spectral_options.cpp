@@ -5,6 +5,7 @@
 #include <clocale>
 #include <string>
 
+#include "restore/spectral/spectral_config.h"
 #include "restore/spectral/spectral_options.h"
 
 using zuvo::restore::SpectralConfig;
@@ -113,6 +114,10 @@ void TestSpectralOptions::accepted()
     for (const auto& a : p.ignored)
         ignored << QString::fromStdString(a);
     QTEST(ignored, "ignored");
+    // What the parser accepts, the denoiser accepts.
+    std::string error;
+    if (p.enabled)
+        QVERIFY2(zuvo::restore::checkSpectralConfig(p.config, 2, 44100.0, error), error.c_str());
 }
 
 void TestSpectralOptions::refused_data()

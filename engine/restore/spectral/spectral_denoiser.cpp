@@ -128,6 +128,8 @@ void SpectralDenoiser::process(std::vector<std::vector<double>>& ch, std::size_t
 
 std::string SpectralDenoiser::description() const
 {
+    if (frame_ == 0)
+        return "Spectral denoise: not configured";
     std::string floor;
     switch (config_.mode) {
     case SpectralConfig::Mode::Light: floor = formatNumber(kLightFloorDb, 0) + " dB"; break;

@@ -122,6 +122,7 @@ void TestSpectralDenoiser::latencyIsOneFrameAtEveryRate()
     SpectralDenoiser d = make(config(Mode(mode), false, 0.0), 1, fs);
     QCOMPARE(d.latency(), d.frameLength());
     QCOMPARE(int(d.latency()), frame);
+    QVERIFY(QString::fromStdString(d.description()).contains(QString("latency %1 samples").arg(frame)));
     // At unity gain a click comes out exactly latency() samples later,
     // wherever it falls in the frame.
     if (Mode(mode) == Mode::Wiener) {
@@ -345,6 +346,7 @@ void TestSpectralDenoiser::configureRefusesBadSetups()
     QVERIFY(!d.configure(c, channels, fs, error));
     QVERIFY(!error.empty());
     QCOMPARE(d.latency(), std::size_t(0));
+    QCOMPARE(QString::fromStdString(d.description()), QString("Spectral denoise: not configured"));
     // A refused set-up leaves nothing half-built behind.
     std::vector<std::vector<double>> x(2, std::vector<double>(100, 0.5));
     d.process(x, 100);

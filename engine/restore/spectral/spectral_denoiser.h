@@ -73,8 +73,9 @@
 // (white noise; -95 dBFS with pink noise, deep, keep harmonics). A 220 Hz tone
 // with 9 harmonics each 5 dB below the last keeps every partial within
 // 0.25 dB with keep harmonics (0.5 dB Wiener), while the plain tiers take
-// 1.3-1.6 dB off the 9th and 2.4-2.8 dB off the 10th. Cost: 15-23 x real time
-// for 44.1 kHz stereo on one core of the build machine.
+// 1.3-1.6 dB off the 9th and 2.4-2.8 dB off the 10th. Cost: 41-47 x real time
+// for 44.1 kHz stereo on one core of the build machine (15-23 x while other
+// builds share it).
 
 #include <cstddef>
 #include <memory>

@@ -144,7 +144,7 @@ std::string spectralHelpText()
 {
     return "Spectral denoising (restoration, per channel, before the effects; one denoiser at a time):\n"
            "  --denoise light|standard|deep  STFT denoiser, 46.4 ms frames at 75% overlap, noise floor\n"
-           "                         tracked while the music plays (1.5 s minimum of a frequency median),\n"
+           "                         tracked while the music plays (1.5 s minimum, tones excluded),\n"
            "                         decision-directed Wiener gain held above a floor: light -12 dB,\n"
            "                         standard -18 dB, deep -20 dB (2-5 kHz) to -30 dB (hearing-weighted).\n"
            "                         Measured on 1 kHz at -20 dBFS + white noise at -50 dBFS, 44.1 kHz:\n"

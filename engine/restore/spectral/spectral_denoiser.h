@@ -27,7 +27,7 @@
 // the floor alone. The minimum of a fluctuating quantity is biased low; the
 // factors that remove the bias (one for bins tracked through their own power,
 // one for bins tracked through the median) are measured at configure() time
-// by running the tracker on 4 s of deterministic unit white noise with the
+// by running the tracker on ~3.3 s of deterministic unit white noise with the
 // same frame and hop (mean true power over mean tracked minimum).
 //
 // Gain. Posterior SNR gamma = |X|^2 / lambda; a-priori SNR by decision

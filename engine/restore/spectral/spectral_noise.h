@@ -43,7 +43,8 @@ private:
 
 // Sets bias and medianScale so that the tracker is unbiased on white noise:
 // the windowed frames of unit white noise have mean power sum(w^2); the
-// tracker's mean output on 4 s of such noise is measured through each path.
+// tracker's mean output on twice its window (+16 frames) of such noise is
+// measured through each path.
 void calibrateTracker(NoiseTrackerSetup& s, const std::vector<double>& window, std::size_t hop);
 
 } // namespace zuvo::restore

@@ -69,7 +69,7 @@ WRAP = 0xFFFFFFFFFFFFFFF4
 
 
 def corpus():
-    c = {"dsf_reader": {}, "dff_reader": {}, "engine_cli": {}, "preset_json": {}}
+    c = {"dsf_reader": {}, "dff_reader": {}, "engine_cli": {}, "preset_json": {}, "spectral_options": {}}
     d = c["dsf_reader"]
     d["stereo"] = dsf()
     d["mono-no-tag"] = dsf(channels=1, meta=False)
@@ -106,6 +106,12 @@ def corpus():
         ["-i", "x.wav", "--abs", "0.5", "--abs", "1e400", "--taps", "-1", "o.dsf"],
     ]):
         cli["args-%02d" % i] = b"\0".join(a.encode() for a in args)
+    for i, args in enumerate([
+        ["--denoise", "deep", "--keep-harmonics", "on"], ["--wiener", "--wiener-floor", "-20.000000"],
+        ["--wiener-frame", "64", "--wiener"], ["--noise-reduce", "12dB"], ["--noise-reduce", "light"],
+        ["--denoise", "light", "--wiener"], ["--noise-reduce"], ["--wiener-floor", "1e400"],
+    ]):
+        c["spectral_options"]["args-%02d" % i] = b"\0".join(a.encode() for a in args)
     p = c["preset_json"]
     p["full"] = json.dumps({"oversampling": 128, "taps": 4096, "passband_cutoff": 20000.0, "use_dst": False,
                             "artist": "A", "eq_bands": [{"centerFreq": 1000, "gainDB": 3, "bandwidth": 1,

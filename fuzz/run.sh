@@ -4,7 +4,7 @@
 # fuzz/corpus/<target>/).
 #   fuzz/run.sh                 each target for N executions (default 10000000)
 #   fuzz/run.sh --brief         each target for about 20 s (CI)
-#   fuzz/run.sh [--brief] TARGET...   only those (dsf_reader dff_reader engine_cli preset_json)
+#   fuzz/run.sh [--brief] TARGET...   only those (dsf_reader dff_reader engine_cli preset_json spectral_options)
 # Environment: FUZZ_RUNS=N, FUZZ_SECONDS=S (brief), FUZZ_MAX_LEN=bytes (16384),
 # FUZZ_JOBS_DIR (where findings go).
 set -euo pipefail
@@ -19,7 +19,7 @@ for a in "$@"; do
         *) targets+=("$a") ;;
     esac
 done
-[ ${#targets[@]} -gt 0 ] || targets=(dsf_reader dff_reader engine_cli preset_json)
+[ ${#targets[@]} -gt 0 ] || targets=(dsf_reader dff_reader engine_cli preset_json spectral_options)
 
 build="$root/build-fuzz"
 cmake -S fuzz -B "$build" -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ >/dev/null

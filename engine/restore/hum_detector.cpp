@@ -1,0 +1,68 @@
+#include "restore/hum_detector.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace zuvo::restore {
+
+double goertzelPower(const double* x, std::size_t n, double hz, double fs)
+{
+    if (n < 2)
+        return 0;
+    const double w = 2 * std::numbers::pi * hz / fs;
+    const double coeff = 2 * std::cos(w);
+    double s1 = 0, s2 = 0;
+    const double step = 2 * std::numbers::pi / static_cast<double>(n - 1);
+    for (std::size_t i = 0; i < n; ++i) {
+        const double win = 0.5 - 0.5 * std::cos(step * static_cast<double>(i));
+        const double s0 = x[i] * win + coeff * s1 - s2;
+        s2 = s1;
+        s1 = s0;
+    }
+    return s1 * s1 + s2 * s2 - coeff * s1 * s2;
+}
+
+HumGuess detectMains(const std::vector<std::vector<double>>& channels, std::size_t n, double fs)
+{
+    HumGuess g;
+    // The Hann main lobe is 4 fs / n wide; 10 Hz apart needs n >= 0.2 s.
+    if (static_cast<double>(n) < 0.2 * fs)
+        return g;
+    for (const auto& ch : channels) {
+        const std::size_t len = std::min(n, ch.size());
+        for (int k = 1; k <= 3; ++k) {
+            g.energy50 += goertzelPower(ch.data(), len, 50.0 * k, fs);
+            g.energy60 += goertzelPower(ch.data(), len, 60.0 * k, fs);
+        }
+    }
+    g.nominalHz = g.energy60 > g.energy50 ? 60 : 50;
+    g.mainsHz = g.nominalHz;
+    if (!(g.energy50 + g.energy60 > 0))
+        return g;
+    auto power = [&](double f0) {
+        double sum = 0;
+        for (const auto& ch : channels) {
+            const std::size_t len = std::min(n, ch.size());
+            for (int k = 1; k <= 5 && f0 * k < 0.45 * fs; ++k)
+                sum += goertzelPower(ch.data(), len, f0 * k, fs);
+        }
+        return sum;
+    };
+    double best = g.nominalHz, bestPower = power(best);
+    for (double step : {0.05, 0.005}) {
+        const double centre = best;
+        for (int i = -10; i <= 10; ++i) {
+            const double f = centre + i * step;
+            if (i == 0 || std::abs(f - g.nominalHz) > 0.5)
+                continue;
+            const double p = power(f);
+            if (p > bestPower)
+                best = f, bestPower = p;
+        }
+    }
+    g.mainsHz = best;
+    return g;
+}
+
+} // namespace zuvo::restore

@@ -133,12 +133,21 @@ void Decrackle::block(std::size_t c)
     std::vector<double>& buf = in_[c];
     const std::size_t n = kCrackleHop + 2 * kCrackleContext;
     // The first block's past is silence: the step from it into the music is
-    // no click, so its first model-order samples are not searched.
+    // no click, so its first model-order samples are not searched. Likewise
+    // the step from the music's end into the flushing silence.
     const std::size_t from = kCrackleContext + (blocks_[c] == 0 ? kCrackleOrder : 0);
+    std::size_t to = kCrackleContext + kCrackleHop, len = n;
+    const std::uint64_t start = blocks_[c] * kCrackleHop; // input index of buf[kCrackleContext]
+    if (endAt_ != UINT64_MAX) {
+        const std::uint64_t end = endAt_ + kCrackleContext - std::min<std::uint64_t>(start, endAt_ + kCrackleContext);
+        len = static_cast<std::size_t>(std::min<std::uint64_t>(n, end));
+        to = std::min(to, len > kCrackleOrder ? len - kCrackleOrder : 0);
+    }
     ++blocks_[c];
     std::vector<ClickRun> runs;
-    for (int pass = 0; pass < kCracklePasses; ++pass)
-        repairClicks(buf.data(), n, from, kCrackleContext + kCrackleHop, threshold_, runs);
+    if (to > from && len > 4 * kCrackleOrder)
+        for (int pass = 0; pass < kCracklePasses; ++pass)
+            repairClicks(buf.data(), len, from, to, threshold_, runs);
     for (const ClickRun& r : runs) {
         ++clicks_;
         samples_ += r.last - r.first;
@@ -146,6 +155,12 @@ void Decrackle::block(std::size_t c)
     const auto begin = buf.begin() + static_cast<std::ptrdiff_t>(kCrackleContext);
     out_[c].insert(out_[c].end(), begin, begin + static_cast<std::ptrdiff_t>(kCrackleHop));
     buf.erase(buf.begin(), buf.begin() + static_cast<std::ptrdiff_t>(kCrackleHop));
+}
+
+void Decrackle::markEnd()
+{
+    if (endAt_ == UINT64_MAX && !in_.empty())
+        endAt_ = blocks_[0] * kCrackleHop + (in_[0].size() - kCrackleContext);
 }
 
 void Decrackle::process(std::vector<std::vector<double>>& ch, std::size_t n)

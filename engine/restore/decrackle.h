@@ -55,6 +55,9 @@ public:
 
     std::size_t latency() const { return kCrackleHop + kCrackleContext; }
     void process(std::vector<std::vector<double>>& ch, std::size_t n);
+    // The input ends here: what follows is the silence that flushes the
+    // stage, and the step into it is no click.
+    void markEnd();
 
     std::uint64_t clicks() const { return clicks_; }
     std::uint64_t repairedSamples() const { return samples_; }
@@ -67,6 +70,8 @@ private:
     std::vector<std::vector<double>> out_; // repaired samples waiting to leave
     std::vector<std::size_t> outRead_;
     std::vector<std::uint64_t> blocks_;
+    std::vector<std::uint64_t> received_;
+    std::uint64_t endAt_ = UINT64_MAX;
     std::uint64_t clicks_ = 0, samples_ = 0;
 };
 

@@ -31,6 +31,7 @@ Expander::Expander(int channels, double fs, double thresholdDb, double ratio, do
 {
     // Start open: the first notes must not fade in.
     gainDb_ = 0;
+    warmup_ = static_cast<std::size_t>(kExpanderWarmupTimeConstants * kExpanderRmsMs * 1e-3 * fs);
 }
 
 void Expander::process(std::vector<std::vector<double>>& ch, std::size_t n)
@@ -45,9 +46,17 @@ void Expander::process(std::vector<std::vector<double>>& ch, std::size_t n)
             ms_[c] += detect_ * (x * x - ms_[c]);
             level = std::max(level, ms_[c]);
         }
+        // The detector starts empty: while it fills, its level means
+        // nothing and the gain stays where it is (open).
+        if (warmup_ > 0) {
+            --warmup_;
+            continue;
+        }
         const double target = expanderGainDb(10 * std::log10(level), threshold_, ratio_, knee_);
         gainDb_ += (target > gainDb_ ? attack_ : release_) * (target - gainDb_);
         smallestDb_ = std::min(smallestDb_, gainDb_);
+        if (gainDb_ == 0)
+            continue;
         const double g = std::pow(10.0, gainDb_ / 20);
         for (std::size_t c = 0; c < channels; ++c)
             ch[c][i] *= g;

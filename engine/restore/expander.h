@@ -11,7 +11,8 @@
 // so a signal 20 dB under the threshold comes out 20 (R - 1) dB lower.
 // The gain then moves towards that target with the attack time constant
 // when it rises (the expander opens) and the release time constant when it
-// falls (closes). No look-ahead: no latency.
+// falls (closes). No look-ahead: no latency. The gain starts open and holds
+// for the first 3 detector time constants (30 ms) while the detector fills.
 
 #include <cstddef>
 #include <vector>
@@ -19,6 +20,8 @@
 namespace zuvo::restore {
 
 constexpr double kExpanderRmsMs = 10.0;
+// The gain holds (open) for this many detector time constants at the start.
+constexpr double kExpanderWarmupTimeConstants = 3.0;
 
 // The static curve: gain in dB for a level in dB.
 double expanderGainDb(double levelDb, double thresholdDb, double ratio, double kneeDb);
@@ -39,6 +42,7 @@ private:
     std::vector<double> ms_;
     double gainDb_ = 0;
     double smallestDb_ = 0;
+    std::size_t warmup_ = 0;
 };
 
 } // namespace zuvo::restore

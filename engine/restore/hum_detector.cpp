@@ -36,7 +36,7 @@ HumGuess detectMains(const std::vector<std::vector<double>>& channels, std::size
             g.energy60 += goertzelPower(ch.data(), len, 60.0 * k, fs);
         }
     }
-    g.nominalHz = g.energy60 > g.energy50 ? 60 : 50;
+    g.nominalHz = g.energy60 > 2 * g.energy50 ? 60 : 50;
     g.mainsHz = g.nominalHz;
     if (!(g.energy50 + g.energy60 > 0))
         return g;

@@ -4,7 +4,9 @@
 // Rule: over the analysed stretch (Hann-windowed, all channels summed in
 // power) the energy at 50 + 100 + 150 Hz is compared with the energy at
 // 60 + 120 + 180 Hz, each measured with a Goertzel filter. 60 Hz wins only
-// when its sum is larger; a tie, silence (no energy at either set) or a
+// when its sum is more than twice (3 dB over) the 50 Hz sum, so that music
+// without hum, whose energy leaks a little unevenly into both sets, keeps
+// the default; a closer call, silence (no energy at either set) or a
 // stretch too short to tell the two apart (under 0.2 s) gives 50 Hz.
 // Mains is rarely exactly on its nominal frequency and a 5 Hz wide notch
 // 0.1 Hz off takes only ~12 dB; so the fundamental is then refined within

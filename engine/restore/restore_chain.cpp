@@ -53,7 +53,9 @@ bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::
                              "%.1f ms, linked %.0f ms RMS detector",
                              e.thresholdDb, e.ratio, e.kneeDb, e.attackMs, e.releaseMs, kExpanderRmsMs));
     }
-    toDrop_ = latency();
+    toDrop_.clear();
+    for (const RestoreStage& st : stages_)
+        toDrop_.push_back(std::visit([](const auto& x) { return x.latency(); }, st));
     return true;
 }
 
@@ -67,24 +69,66 @@ std::size_t RestoreChain::latency() const
 
 std::size_t RestoreChain::run(Planar& block, std::size_t n)
 {
-    for (RestoreStage& s : stages_)
-        std::visit([&](auto& st) { st.process(block, n); }, s);
-    const std::size_t drop = std::min(toDrop_, n);
-    if (drop > 0) {
-        for (auto& ch : block)
-            ch.erase(ch.begin(), ch.begin() + static_cast<std::ptrdiff_t>(drop));
-        toDrop_ -= drop;
+    // Each stage's own delay is dropped right behind it, so that the next
+    // stage never sees the leading silence (an expander would close on it).
+    for (std::size_t s = 0; s < stages_.size(); ++s) {
+        std::visit([&](auto& st) { st.process(block, n); }, stages_[s]);
+        const std::size_t drop = std::min(toDrop_[s], n);
+        if (drop > 0) {
+            for (auto& ch : block)
+                ch.erase(ch.begin(), ch.begin() + static_cast<std::ptrdiff_t>(drop));
+            toDrop_[s] -= drop;
+            n -= drop;
+        }
     }
     for (auto& ch : block)
-        ch.resize(n - drop);
-    return n - drop;
+        ch.resize(n);
+    return n;
 }
 
 std::size_t RestoreChain::drain(Planar& block)
 {
-    const std::size_t n = latency();
-    block.assign(static_cast<std::size_t>(channels_), std::vector<double>(n, 0.0));
-    return run(block, n);
+    // Stage by stage: the silence that pushes one stage's held samples out
+    // goes through that stage only; the samples then go on down the chain.
+    block.assign(static_cast<std::size_t>(channels_), std::vector<double>());
+    std::size_t n = 0;
+    for (std::size_t s = 0; s < stages_.size(); ++s) {
+        std::size_t pushed = 0;
+        std::visit(
+            [&](auto& st) {
+                if constexpr (requires { st.markEnd(); })
+                    st.markEnd();
+                pushed = st.latency();
+            },
+            stages_[s]);
+        for (auto& ch : block)
+            ch.resize(n + pushed, 0.0);
+        n += pushed;
+        for (std::size_t k = s; k < stages_.size(); ++k) {
+            if (k > s && n == 0)
+                break;
+            std::visit([&](auto& st) { st.process(block, n); }, stages_[k]);
+            const std::size_t drop = std::min(toDrop_[k], n);
+            if (drop > 0) {
+                for (auto& ch : block)
+                    ch.erase(ch.begin(), ch.begin() + static_cast<std::ptrdiff_t>(drop));
+                toDrop_[k] -= drop;
+                n -= drop;
+            }
+        }
+        // What came out of the later stages is final; only stage s's flush
+        // went through them, so keep it and flush the next stage after it.
+        finished_.resize(static_cast<std::size_t>(channels_));
+        for (std::size_t c = 0; c < block.size(); ++c) {
+            finished_[c].insert(finished_[c].end(), block[c].begin(), block[c].begin() + static_cast<std::ptrdiff_t>(n));
+            block[c].clear();
+        }
+        n = 0;
+    }
+    block.swap(finished_);
+    finished_.clear();
+    n = block.empty() ? 0 : block[0].size();
+    return n;
 }
 
 std::vector<std::string> RestoreChain::summary() const

@@ -5,11 +5,12 @@
 // A stage that is off is not in the list; with nothing on the chain is
 // empty() and the caller skips it.
 //
-// Every stage works in place on all channels with a constant latency; run()
-// hides the chain's total latency the same way the effect chain does (the
-// first latency() frames are dropped, drain() pushes that many silent
-// frames through at the end), so the output is exactly as long as the input
-// and sample-aligned with it.
+// Every stage works in place on all channels with a constant latency. The
+// chain hides it stage by stage: each stage's first latency() frames are
+// dropped right behind it (so the next stage never sees that silence), and
+// drain() flushes each stage with as many silent frames in turn. The output
+// is exactly as long as the input and sample-aligned with it; stages with a
+// markEnd() are told where the input ended before their flush.
 
 #include <cstddef>
 #include <cstdint>
@@ -49,7 +50,8 @@ private:
     std::vector<RestoreStage> stages_;
     std::vector<std::string> lines_;
     int channels_ = 0;
-    std::size_t toDrop_ = 0;
+    std::vector<std::size_t> toDrop_; // per stage: leading frames still to drop
+    Planar finished_;
 };
 
 } // namespace zuvo::restore

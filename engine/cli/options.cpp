@@ -307,6 +307,8 @@ void Parser::validate()
             o.output = positional_.back();
             positional_.pop_back();
         }
+        // Restoration runs in file conversion only.
+        restore::finishRestoreOptions(o.restore, false, result_.errors, result_.warnings);
         const bool otherMode = o.mode != Mode::Forward || !o.inputs.empty() || !positional_.empty();
         record::validateRecordOptions(o.record, o.pdfReportAsked, o.output, otherMode, result_.errors);
         if (o.record.enabled)

@@ -6,21 +6,35 @@
 
 namespace zuvo::restore {
 
-double goertzelPower(const double* x, std::size_t n, double hz, double fs)
+namespace {
+
+std::vector<double> hannWindowed(const double* x, std::size_t n)
 {
-    if (n < 2)
-        return 0;
-    const double w = 2 * std::numbers::pi * hz / fs;
-    const double coeff = 2 * std::cos(w);
-    double s1 = 0, s2 = 0;
+    std::vector<double> w(x, x + n);
     const double step = 2 * std::numbers::pi / static_cast<double>(n - 1);
-    for (std::size_t i = 0; i < n; ++i) {
-        const double win = 0.5 - 0.5 * std::cos(step * static_cast<double>(i));
-        const double s0 = x[i] * win + coeff * s1 - s2;
+    for (std::size_t i = 0; i < n; ++i)
+        w[i] *= 0.5 - 0.5 * std::cos(step * static_cast<double>(i));
+    return w;
+}
+
+// Goertzel power of already-windowed samples.
+double goertzel(const std::vector<double>& w, double hz, double fs)
+{
+    const double coeff = 2 * std::cos(2 * std::numbers::pi * hz / fs);
+    double s1 = 0, s2 = 0;
+    for (double v : w) {
+        const double s0 = v + coeff * s1 - s2;
         s2 = s1;
         s1 = s0;
     }
     return s1 * s1 + s2 * s2 - coeff * s1 * s2;
+}
+
+} // namespace
+
+double goertzelPower(const double* x, std::size_t n, double hz, double fs)
+{
+    return n < 2 ? 0.0 : goertzel(hannWindowed(x, n), hz, fs);
 }
 
 HumGuess detectMains(const std::vector<std::vector<double>>& channels, std::size_t n, double fs)
@@ -29,11 +43,13 @@ HumGuess detectMains(const std::vector<std::vector<double>>& channels, std::size
     // The Hann main lobe is 4 fs / n wide; 10 Hz apart needs n >= 0.2 s.
     if (static_cast<double>(n) < 0.2 * fs)
         return g;
-    for (const auto& ch : channels) {
-        const std::size_t len = std::min(n, ch.size());
+    std::vector<std::vector<double>> windowed;
+    for (const auto& ch : channels)
+        windowed.push_back(hannWindowed(ch.data(), std::min(n, ch.size())));
+    for (const auto& w : windowed) {
         for (int k = 1; k <= 3; ++k) {
-            g.energy50 += goertzelPower(ch.data(), len, 50.0 * k, fs);
-            g.energy60 += goertzelPower(ch.data(), len, 60.0 * k, fs);
+            g.energy50 += goertzel(w, 50.0 * k, fs);
+            g.energy60 += goertzel(w, 60.0 * k, fs);
         }
     }
     g.nominalHz = g.energy60 > 2 * g.energy50 ? 60 : 50;
@@ -42,11 +58,9 @@ HumGuess detectMains(const std::vector<std::vector<double>>& channels, std::size
         return g;
     auto power = [&](double f0) {
         double sum = 0;
-        for (const auto& ch : channels) {
-            const std::size_t len = std::min(n, ch.size());
+        for (const auto& w : windowed)
             for (int k = 1; k <= 5 && f0 * k < 0.45 * fs; ++k)
-                sum += goertzelPower(ch.data(), len, f0 * k, fs);
-        }
+                sum += goertzel(w, f0 * k, fs);
         return sum;
     };
     double best = g.nominalHz, bestPower = power(best);

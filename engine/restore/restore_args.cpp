@@ -110,7 +110,7 @@ void finishRestoreOptions(RestoreOptions& o, bool forwardMode, std::vector<std::
         o.preset = MasteringPreset::Pop;
     applyMasteringRestore(o);
     if (!forwardMode && (o.any() || o.master))
-        errors.push_back("--dehum, --decrackle, --expand and --master apply to PCM to DSD conversion only");
+        errors.push_back("--dehum, --decrackle, --expand and --master apply to PCM to DSD file conversion only (not to --reverse, --dxd or --record)");
     if (o.dehum.qGiven && !o.dehum.on)
         warnings.push_back("--dehum-q has no effect without --dehum");
     if (o.decrackle.thresholdGiven && !o.decrackle.on)

@@ -219,8 +219,13 @@ void TestRestoreOptions::stillRefused()
 
 void TestRestoreOptions::notInReverse()
 {
-    const auto p = parseCommandLine({"--reverse", "-i", "in.dsf", "--decrackle", "out.wav"});
-    QVERIFY(mentions(p.errors, "PCM to DSD"));
+    for (const std::vector<std::string>& args :
+         {std::vector<std::string>{"--reverse", "-i", "in.dsf", "--decrackle", "out.wav"},
+          std::vector<std::string>{"--dxd", "-i", "in.wav", "--dehum", "out.wav"},
+          std::vector<std::string>{"--record", "out.dsf", "--master"}}) {
+        const auto p = parseCommandLine(args);
+        QVERIFY(mentions(p.errors, "PCM to DSD file conversion only"));
+    }
 }
 
 QTEST_APPLESS_MAIN(TestRestoreOptions)

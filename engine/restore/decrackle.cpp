@@ -37,7 +37,10 @@ void repairClicks(double* x, std::size_t n, std::size_t from, std::size_t to, do
     const double sigma = robustSigma(e);
     if (!(sigma > kSigmaFloor))
         return;
-    const double limit = threshold * sigma;
+    // Excursions under kCrackleFloor are never clicks: on very clean material
+    // sigma is the quantisation noise, and the model's own small misfit of a
+    // loud tone would otherwise pass for crackle.
+    const double limit = std::max(threshold * sigma, kCrackleFloor);
     // The forward residual of a click starts exactly at its first sample
     // and rings on for up to p samples after it; the backward residual (the
     // same model run against time) ends exactly at its last sample and rings
@@ -144,10 +147,14 @@ void Decrackle::block(std::size_t c)
         to = std::min(to, len > kCrackleOrder ? len - kCrackleOrder : 0);
     }
     ++blocks_[c];
+    // Nor is that silence fitted: the model of the first block sees music only.
+    const std::size_t skip = start == 0 ? kCrackleContext : 0;
     std::vector<ClickRun> runs;
-    if (to > from && len > 4 * kCrackleOrder)
+    if (to > from && len > skip + 4 * kCrackleOrder)
         for (int pass = 0; pass < kCracklePasses; ++pass)
-            repairClicks(buf.data(), len, from, to, threshold_, runs);
+            repairClicks(buf.data() + skip, len - skip, from - skip, to - skip, threshold_, runs);
+    for (ClickRun& r : runs)
+        r.first += skip, r.last += skip;
     for (const ClickRun& r : runs) {
         ++clicks_;
         samples_ += r.last - r.first;

@@ -6,7 +6,7 @@
 //  1. an AR model of order kCrackleOrder is fitted to the block (ar_model.h);
 //  2. a sample is suspect when the model's prediction residual exceeds
 //     threshold x sigma, sigma = 1.4826 x the median absolute residual (a
-//     robust estimate that the clicks themselves hardly move);
+//     robust estimate that the clicks themselves hardly move), and -90 dBFS;
 //  3. a click's forward residual starts exactly at its first sample and
 //     rings on after it; the backward residual (the model run against time)
 //     ends exactly at its last sample. Hits closer than kCrackleMergeGap are
@@ -36,6 +36,7 @@ constexpr std::size_t kCracklePadBefore = 0;
 constexpr std::size_t kCracklePadAfter = 1;
 constexpr std::size_t kCrackleMaxRun = 200;
 constexpr int kCracklePasses = 2;
+constexpr double kCrackleFloor = 3.16e-5; // -90 dBFS: the smallest residual excursion taken for a click
 constexpr std::size_t kCrackleMaxUnknowns = 600; // one least-squares system at most
 
 // A run of repaired samples [first, last) in a buffer.

@@ -56,6 +56,14 @@ HumGuess detectMains(const std::vector<std::vector<double>>& channels, std::size
     g.mainsHz = g.nominalHz;
     if (!(g.energy50 + g.energy60 > 0))
         return g;
+    // Refine only a hum that is there: its harmonics must stand 6 dB over
+    // the spectrum half-way between them.
+    double between = 0;
+    for (const auto& w : windowed)
+        for (int k = 1; k <= 3; ++k)
+            between += goertzel(w, g.nominalHz * (k + 0.5), fs);
+    if (!((g.nominalHz == 60 ? g.energy60 : g.energy50) > 4 * between))
+        return g;
     auto power = [&](double f0) {
         double sum = 0;
         for (const auto& w : windowed)

@@ -11,8 +11,9 @@
 // Mains is rarely exactly on its nominal frequency and a 5 Hz wide notch
 // 0.1 Hz off takes only ~12 dB; so the fundamental is then refined within
 // +-0.5 Hz of the nominal value to where the summed Goertzel power of the
-// first five harmonics peaks (0.05 Hz steps, then 0.005 Hz). On silence the
-// nominal value stays.
+// first five harmonics peaks (0.05 Hz steps, then 0.005 Hz). Without a
+// hum to refine on (silence, or harmonics less than 6 dB over the spectrum
+// half-way between them) the nominal value stays.
 
 #include <cstddef>
 #include <vector>

@@ -33,7 +33,8 @@ bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::
     if (o.dehum.on) {
         stages_.emplace_back(Dehum(channels, fs, o.dehum.q));
         lines_.push_back(fmt("  dehum: 50/60 Hz found from the first %.0f s, notches at the fundamental and "
-                             "harmonics up to %d x (below %.0f Hz), each %.2f Hz wide (Q %.2f at the fundamental)",
+                             "harmonics up to %d x (below %.0f Hz), each mains/Q wide (%.2f Hz at 50 Hz, Q %.2f "
+                             "at the fundamental)",
                              kDehumDetectSeconds, kDehumHarmonics, kDehumMaxFraction * fs, 50.0 / o.dehum.q,
                              o.dehum.q));
     }

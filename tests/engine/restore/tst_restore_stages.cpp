@@ -68,6 +68,7 @@ private slots:
     void decrackleLeavesCleanMusic();
     void expanderBurstAndNoise();
     void expanderAboveKneeUntouched();
+    void expanderLinked();
     void expanderCurve_data();
     void expanderCurve();
     void chainKeepsLengthAndAlignment_data();
@@ -243,6 +244,26 @@ void TestRestoreStages::expanderAboveKneeUntouched()
     for (std::size_t i = 0; i < n; ++i)
         if (y[0][i] != x[i])
             QFAIL(qPrintable(QString("sample %1 changed").arg(i)));
+}
+
+void TestRestoreStages::expanderLinked()
+{
+    // Left loud, right at -70 dB: the level is the louder channel's, so the
+    // quiet one is not pushed down; alone, it is.
+    const std::size_t n = static_cast<std::size_t>(2 * kFs);
+    Signal loud(n), quiet(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const double t = static_cast<double>(i) / kFs;
+        loud[i] = 0.3 * std::sin(2 * kPi * 300 * t);
+        quiet[i] = std::sqrt(2.0) * std::pow(10.0, -70.0 / 20) * std::sin(2 * kPi * 2000 * t);
+    }
+    RestoreOptions o;
+    o.expand.on = true;
+    const std::size_t from = n / 2;
+    const auto both = runChain(o, {loud, quiet});
+    QVERIFY(std::abs(db(rms(both[1], from, n) / rms(quiet, from, n))) < 0.01);
+    const auto alone = runChain(o, {quiet});
+    QVERIFY(db(rms(alone[0], from, n) / rms(quiet, from, n)) < -19);
 }
 
 void TestRestoreStages::expanderCurve_data()

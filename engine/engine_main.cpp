@@ -17,6 +17,7 @@
 #include "run/engine_log.h"
 #include "run/exit_codes.h"
 #include "run/forward_run.h"
+#include "run/measure_run.h"
 #include "run/output_checks.h"
 #include "run/reverse_run.h"
 
@@ -114,7 +115,9 @@ int run(std::vector<std::string> args)
 
     int code = zuvo::kExitFailure;
     switch (o.mode) {
-    case zuvo::cli::Mode::Forward: code = zuvo::run::runForward(ctx); break;
+    case zuvo::cli::Mode::Forward:
+        code = o.analysis.measure ? zuvo::run::runMeasure(ctx) : zuvo::run::runForward(ctx);
+        break;
     case zuvo::cli::Mode::Reverse: code = zuvo::run::runReverse(ctx); break;
     case zuvo::cli::Mode::Dxd: code = zuvo::run::runDxd(ctx); break;
     case zuvo::cli::Mode::Record: code = zuvo::record::runRecord(ctx); break;

@@ -1,6 +1,7 @@
 #include "cli/help.h"
 
 #include "dsp/dsd_pipeline.h"
+#include "analysis/analysis_help.h"
 #include "effects/effects_help.h"
 #include "restore/restore_help.h"
 
@@ -74,14 +75,16 @@ void printHelp(std::FILE* out, const char* version)
         );
     restore::printRestoreHelp(out);
     effects::printEffectsHelp(out);
+    analysis::printAnalysisHelp(out);
     std::fprintf(out,
         "Run and report:\n"
         "  --gui                  progress as '[PROGRESS] 12.3' lines on standard output\n"
         "  --log-file PATH        append a detailed log to PATH\n"
         "  --log fir|ns|freq|all  put the filter design summary on standard error too\n"
         "  --verbose              more detail on standard error\n"
-        "  --report, --peak, --rms  peak and RMS of every input channel, on standard output at the end\n"
-        "  --no-dynamic-range     accepted (no dynamic-range section is computed)\n"
+        "  --report, --peak, --rms  peak and RMS of every input channel, on standard output at the end,\n"
+        "                         with 'channel N: dynamic range X dB crest Y dB' lines\n"
+        "  --no-dynamic-range     leave out the dynamic-range lines\n"
         "  --swap-channels        swap the first two channels (before the effects)\n"
         "  -pdfrp                 accepted with a warning: this build makes no PDF report\n"
         "  --version, --help, --list-devices\n"
@@ -100,7 +103,7 @@ void printHelp(std::FILE* out, const char* version)
         "Control: the line 'stop' on standard input (or the host's control queue) ends the run;\n"
         "  the partial output is finalised and stays valid.\n"
         "\n"
-        "Options for spectral noise reduction, loudness and OpenCL are refused by this version\n"
+        "Options for spectral noise reduction, dynamics and OpenCL are refused by this version\n"
         "(exit code 2), all of them named in one message.\n"
         "\n"
         "Exit codes:\n"

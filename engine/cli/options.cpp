@@ -109,6 +109,8 @@ bool Parser::handle(const std::string& a)
     }
     if (record::takeRecordOption(args_, i_, o.record, result_.errors))
         return true;
+    if (analysis::takeAnalysisOption(args_, i_, o.analysis, result_.errors))
+        return true;
     if (a == "-i" || a == "--input") {
         if (value(s)) {
             if (s.empty())
@@ -315,7 +317,14 @@ void Parser::validate()
             o.mode = Mode::Record;
         return;
     }
-    // The output is the last plain argument; earlier ones are inputs.
+    // The output is the last plain argument; earlier ones are inputs. A
+    // measuring run needs no output: there, plain arguments are inputs
+    // unless -i named them or the last one is a DSD file.
+    const bool measureOnly = o.analysis.measure && o.mode == Mode::Forward;
+    if (measureOnly && !positional_.empty() && o.inputs.empty() && !analysis::isDsdPath(positional_.back())) {
+        o.inputs = positional_;
+        positional_.clear();
+    }
     if (!positional_.empty()) {
         o.output = positional_.back();
         positional_.pop_back();
@@ -323,9 +332,9 @@ void Parser::validate()
     }
     if (o.inputs.empty())
         error("no input given (-i FILE)");
-    if (o.output.empty())
+    if (o.output.empty() && !measureOnly)
         error("no output file given (the last argument)");
-    if (o.mode != Mode::Reverse && o.inputs.size() > 1)
+    if (o.mode != Mode::Reverse && !measureOnly && o.inputs.size() > 1)
         error("one input per run (" + std::to_string(o.inputs.size()) + " given); only --reverse joins several DSD inputs");
     if (o.mode != Mode::Reverse && (samplingGiven_ || lowpassGiven_))
         error("--sampling and --lowpass apply to --reverse only");
@@ -358,6 +367,8 @@ void Parser::validate()
     }
     effects::validateEffects(o.effects, o.mode == Mode::Forward, result_.errors, result_.warnings);
     restore::finishRestoreOptions(o.restore, o.mode == Mode::Forward, result_.errors, result_.warnings);
+    analysis::validateAnalysis(o.analysis, o.mode == Mode::Forward, o.gain.has_value(), result_.errors,
+                               result_.warnings);
 }
 
 ParsedCommandLine Parser::run()

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "analysis/analysis_options.h"
 #include "dsp/dsd_pipeline.h"
 #include "effects/effect_options.h"
 #include "io/tags.h"
@@ -42,6 +43,7 @@ struct EngineOptions {
     bool reportRms = false;
     bool noDynamicRange = false;
     bool swapChannels = false;
+    analysis::AnalysisOptions analysis; // --measure, --lufs, --rg, --stop-lossy, --stats
 
     // Forward (PCM -> DSD).
     int oversampling = 64;

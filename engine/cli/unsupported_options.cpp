@@ -19,7 +19,7 @@ const Row kRows[] = {
     // Repair and restoration.
     {"--wiener", ValueShape::None}, {"--wiener-floor", ValueShape::One}, {"--wiener-frame", ValueShape::One},
     {"--denoise", ValueShape::One}, {"--keep-harmonics", ValueShape::One},
-    {"--noise-reduce", ValueShape::One}, {"--stop-lossy", ValueShape::None},
+    {"--noise-reduce", ValueShape::One},
     // Noise-shaping variants of another modulator family.
     {"--single-pole", ValueShape::None},
     {"--no-ns", ValueShape::None}, {"--quantization-type", ValueShape::One},
@@ -37,7 +37,7 @@ const Row kRows[] = {
     {"--dsee-hmix", ValueShape::One}, {"--dsee-air", ValueShape::One}, {"--harmonics", ValueShape::Two},
     {"--pbe", ValueShape::One}, {"--pbe-precut", ValueShape::One}, {"--apo", ValueShape::OptionalApo},
     // Dynamics and loudness.
-    {"--lufs", ValueShape::One}, {"--rg", ValueShape::OptionalAlbum}, {"--compand", ValueShape::Three},
+    {"--compand", ValueShape::Three},
     {"--compressor", ValueShape::Five}, {"--soft-limiter", ValueShape::One}, {"--lal", ValueShape::None},
     {"--lal-lookahead", ValueShape::One}, {"--lal-threshold", ValueShape::One}, {"--rate", ValueShape::One},
     // Channel re-mapping.
@@ -46,7 +46,7 @@ const Row kRows[] = {
     {"--pipe", ValueShape::None}, {"--force-endianness", ValueShape::One}, {"--memory-cache", ValueShape::One},
     {"--cue", ValueShape::One},
     // Analysis extras.
-    {"--measure", ValueShape::None}, {"--stats", ValueShape::None}, {"--spectrogram", ValueShape::One},
+    {"--spectrogram", ValueShape::One},
     {"--hfacheck", ValueShape::None},
 };
 

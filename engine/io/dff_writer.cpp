@@ -180,10 +180,13 @@ bool DffWriter::write(const std::vector<std::vector<std::uint8_t>>& perChannel, 
 bool DffWriter::refreshHeader(bool toDisk, std::string* error)
 {
     // An odd data size lacks its pad byte until the end; readers accept
-    // that of a file's last chunk.
+    // that of a file's last chunk. The sound chunk grows before the form
+    // does: killed between the two, the form still ends where the file
+    // did before this commit, which readers take as a short last chunk,
+    // never as a stray chunk header read out of the sound data.
     const std::uint64_t dataBytes = validBytes_ * pending_.channels();
-    return file_.sync(error, toDisk) && file_.patchBE(4, dsdChunkOffset_ + dataBytes, 8, error)
-        && file_.patchBE(dsdChunkOffset_ + 4, dataBytes, 8, error);
+    return file_.sync(error, toDisk) && file_.patchBE(dsdChunkOffset_ + 4, dataBytes, 8, error)
+        && file_.patchBE(4, dsdChunkOffset_ + dataBytes, 8, error);
 }
 
 bool DffWriter::finalize(std::string* error)

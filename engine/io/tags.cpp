@@ -1,5 +1,7 @@
 #include "io/tags.h"
 
+#include <cctype>
+
 #include <unistd.h>
 
 #include "io/input_file.h"
@@ -15,7 +17,7 @@ namespace zuvo::io {
 bool Tags::hasText() const
 {
     return !(artist.empty() && title.empty() && album.empty() && genre.empty() && year.empty()
-             && comment.empty() && track == 0);
+             && comment.empty() && track == 0 && userText.empty());
 }
 
 bool Tags::empty() const
@@ -41,6 +43,9 @@ void Tags::fillEmptyFrom(const Tags& o)
         cover = o.cover;
         coverMime = o.coverMime;
     }
+    for (const auto& [description, value] : o.userText)
+        if (userTextValue(description).empty())
+            setUserText(description, value);
 }
 
 bool loadCover(const std::string& path, Tags& tags, std::string* error)
@@ -208,6 +213,88 @@ std::string decodeText(const std::uint8_t* p, std::size_t n)
 
 } // namespace
 
+namespace {
+
+bool sameDescription(const std::string& a, const std::string& b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i])))
+            return false;
+    return true;
+}
+
+// TXXX body: encoding, terminated description, value; both in one encoding.
+std::vector<std::uint8_t> userTextBody(const std::string& description, const std::string& value)
+{
+    const bool ascii = isAscii(description) && isAscii(value);
+    std::vector<std::uint8_t> body;
+    if (ascii) {
+        body = encodeText(description, true);
+        body.insert(body.end(), value.begin(), value.end());
+        return body;
+    }
+    // UTF-16 with a BOM before each string.
+    auto encode16 = [](const std::string& s) {
+        std::vector<std::uint8_t> b = encodeText(s, false);
+        if (b[0] == 0) { // plain ASCII: re-encode as UTF-16
+            std::vector<std::uint8_t> w = {1, 0xFF, 0xFE};
+            for (std::size_t i = 1; i < b.size(); ++i) { w.push_back(b[i]); w.push_back(0); }
+            return w;
+        }
+        return b;
+    };
+    body = encode16(description);
+    body.push_back(0); body.push_back(0);
+    const auto v = encode16(value);
+    body.insert(body.end(), v.begin() + 1, v.end());
+    return body;
+}
+
+void parseUserText(const std::uint8_t* body, std::size_t n, Tags& out)
+{
+    if (n < 2)
+        return;
+    const int enc = body[0];
+    const bool wide = enc == 1 || enc == 2;
+    std::size_t i = 1;
+    if (wide) {
+        while (i + 1 < n && !(body[i] == 0 && body[i + 1] == 0)) i += 2;
+    } else {
+        while (i < n && body[i] != 0) ++i;
+    }
+    const std::size_t descEnd = i;
+    i += wide ? 2 : 1;
+    std::vector<std::uint8_t> desc(body, body + descEnd);
+    std::vector<std::uint8_t> value;
+    value.push_back(body[0]);
+    if (i < n)
+        value.insert(value.end(), body + i, body + n);
+    out.setUserText(decodeText(desc.data(), desc.size()), decodeText(value.data(), value.size()));
+}
+
+} // namespace
+
+void Tags::setUserText(const std::string& description, const std::string& value)
+{
+    for (auto& [d, v] : userText) {
+        if (sameDescription(d, description)) {
+            v = value;
+            return;
+        }
+    }
+    userText.emplace_back(description, value);
+}
+
+std::string Tags::userTextValue(const std::string& description) const
+{
+    for (const auto& [d, v] : userText)
+        if (sameDescription(d, description))
+            return v;
+    return {};
+}
+
 std::vector<std::uint8_t> buildId3v2(const Tags& t)
 {
     std::vector<std::uint8_t> frames;
@@ -238,6 +325,9 @@ std::vector<std::uint8_t> buildId3v2(const Tags& t)
         body.insert(body.end(), txt.begin() + 1, txt.end());
         appendFrame(frames, "COMM", body);
     }
+    for (const auto& [description, value] : t.userText)
+        if (!description.empty())
+            appendFrame(frames, "TXXX", userTextBody(description, value));
     if (!t.cover.empty()) {
         // APIC: encoding, MIME type, picture type 3 (front cover), empty description, data.
         std::vector<std::uint8_t> body;
@@ -284,6 +374,7 @@ bool parseId3v2(const std::uint8_t* d, std::size_t size, Tags& out)
         else if (id == "TCON") out.genre = decodeText(body, n);
         else if (id == "TYER" || id == "TDRC") out.year = decodeText(body, n);
         else if (id == "TRCK") out.track = std::atoi(decodeText(body, n).c_str());
+        else if (id == "TXXX") parseUserText(body, n, out);
         else if (id == "COMM" && n > 4) {
             // Skip language and the terminated short description.
             const int enc = body[0];

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zuvo::io {
@@ -19,11 +20,18 @@ struct Tags {
     // Front cover (APIC in the ID3 tag): the image bytes and their MIME type.
     std::vector<std::uint8_t> cover;
     std::string coverMime;
+    // User text frames (ID3 TXXX): description and value, e.g. the
+    // REPLAYGAIN_* pairs. Descriptions compare without regard to case.
+    std::vector<std::pair<std::string, std::string>> userText;
 
     bool empty() const;
     bool hasText() const;
     // Fields that are empty here take the value from `other`.
     void fillEmptyFrom(const Tags& other);
+    // Sets (replacing a frame of the same description) or reads a user text
+    // frame; userTextValue returns "" when there is none.
+    void setUserText(const std::string& description, const std::string& value);
+    std::string userTextValue(const std::string& description) const;
 };
 
 // ID3v2.3 tag (header included) with one text frame per non-empty field.

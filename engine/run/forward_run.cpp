@@ -15,7 +15,9 @@
 #include "restore/restore_chain.h"
 #include "run/channel_pool.h"
 #include "run/exit_codes.h"
+#include "run/analysis_report.h"
 #include "run/levels.h"
+#include "run/loudness_setup.h"
 #include "run/output_checks.h"
 #include "run/pcm_input.h"
 
@@ -112,6 +114,9 @@ int runForward(RunContext& ctx)
     if (refused)
         return refused;
     const io::PcmStreamInfo& in = reader.info();
+    if (o.analysis.stopLossy)
+        if (const int lossy = refuseLossyInput(ctx, input))
+            return lossy;
 
     std::string error;
     io::Tags tags = o.tags;
@@ -193,6 +198,11 @@ int runForward(RunContext& ctx)
     // Channels go out in the container's order and carry the input's
     // speaker positions (its channel mask) as the container's labels.
     const std::vector<std::size_t> order = io::containerOrder(in.layout);
+    const LoudnessSetup loudness = prepareLoudness(ctx, input, channelSources(order, o.swapChannels),
+        chain.outChannels() == in.channels ? writtenLayout(in.layout, order) : io::ChannelLayout{},
+        in.channels, in.sampleRate, summary, tags);
+    if (loudness.exitCode)
+        return loudness.exitCode;
     auto writer = io::makeDsdWriter(container);
     const int dstLevel = o.dst ? o.dstLevel : 0;
     if (dstLevel > 0)
@@ -223,6 +233,9 @@ int runForward(RunContext& ctx)
     std::vector<std::vector<double>> planar(channels);
     std::vector<std::vector<std::uint8_t>> bytes(static_cast<std::size_t>(outChannels));
     std::vector<ChannelLevel> levels(channels);
+    InputAnalysis inputAnalysis(o, in.channels, in.sampleRate, writtenLayout(in.layout, order));
+    // The measuring pass took the first half of the progress.
+    const double progressBase = loudness.measured ? 50.0 : 0.0;
     std::vector<std::uint64_t> nonFinite(channels, 0);
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
@@ -247,6 +260,12 @@ int runForward(RunContext& ctx)
                 const auto c = static_cast<std::size_t>(ci);
                 nonFinite[c] += takeChannel(interleaved, channels, source[c], n, planar[c]);
                 levels[c].add(planar[c].data(), n, 1);
+                inputAnalysis.addChannel(c, planar[c].data(), n);
+            });
+            inputAnalysis.addBlock(planar, n);
+            pool.run(in.channels, [&](int ci) {
+                const auto c = static_cast<std::size_t>(ci);
+                scaleBlock(planar[c], n, loudness.gain);
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), n, bytes[c]);
             });
@@ -255,12 +274,15 @@ int runForward(RunContext& ctx)
             for (std::size_t c = 0; c < channels; ++c) {
                 nonFinite[c] += takeChannel(interleaved, channels, source[c], n, planar[c]);
                 levels[c].add(planar[c].data(), n, 1);
+                inputAnalysis.addChannel(c, planar[c].data(), n);
             }
+            inputAnalysis.addBlock(planar, n);
             if (!restoration.empty())
                 n = restoration.run(planar, n);
             const std::size_t ready = chain.empty() ? n : chain.run(planar, n);
             pool.run(outChannels, [&](int ci) {
                 const auto c = static_cast<std::size_t>(ci);
+                scaleBlock(planar[c], ready, loudness.gain);
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), ready, bytes[c]);
             });
@@ -274,7 +296,8 @@ int runForward(RunContext& ctx)
         const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
         const double speed = elapsed > 0 ? static_cast<double>(done) / in.sampleRate / elapsed : 0;
         if (in.frames > 0)
-            ctx.progress.update(100.0 * static_cast<double>(done) / static_cast<double>(in.frames), speed);
+            ctx.progress.update(progressBase + (100.0 - progressBase) * static_cast<double>(done)
+                                / static_cast<double>(in.frames), speed);
     }
     if (!stopped) {
         // The restoration's held-back frames go through the effects first,
@@ -287,8 +310,11 @@ int runForward(RunContext& ctx)
         pool.run(outChannels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
             bytes[c].clear();
-            if (restoredTail > 0)
+            if (restoredTail > 0) {
+                scaleBlock(restored[c], restoredTail, loudness.gain);
                 encoders[c].process(restored[c].data(), restoredTail, bytes[c]);
+            }
+            scaleBlock(planar[c], tail, loudness.gain);
             if (tail > 0)
                 encoders[c].process(planar[c].data(), tail, bytes[c]);
             encoders[c].finish(bytes[c]);
@@ -330,7 +356,7 @@ int runForward(RunContext& ctx)
         report(ctx, "warning: the modulator was overloaded at %llu sample(s); lower the gain (--absdb)",
                static_cast<unsigned long long>(overloads));
     detail(ctx, "%.3f s of audio in %.3f s (%.1fx realtime)", seconds, elapsed, elapsed > 0 ? seconds / elapsed : 0.0);
-    printLevelReport(o, levels);
+    printAnalysisReport(o, levels, inputAnalysis);
     if (stopped)
         return reportStopped(ctx);
     detail(ctx, "done: %s", o.output.c_str());

@@ -2,19 +2,20 @@
 
 #include <cstdio>
 
+#include "analysis/number_text.h"
+
 namespace zuvo::run {
 
 std::string levelReport(const std::vector<ChannelLevel>& levels, bool peak, bool rms)
 {
+    // Fixed '.' decimals whatever the locale of a hosting process.
     std::string out;
-    char line[160];
     for (std::size_t c = 0; c < levels.size(); ++c) {
-        int n = std::snprintf(line, sizeof line, "channel %zu:", c + 1);
+        out += "channel " + std::to_string(c + 1) + ":";
         if (peak)
-            n += std::snprintf(line + n, sizeof line - static_cast<std::size_t>(n), " peak %.2f dBFS", levels[c].peakDbfs());
+            out += " peak " + analysis::fixed(levels[c].peakDbfs(), 2) + " dBFS";
         if (rms)
-            std::snprintf(line + n, sizeof line - static_cast<std::size_t>(n), " rms %.2f dBFS", levels[c].rmsDbfs());
-        out += line;
+            out += " rms " + analysis::fixed(levels[c].rmsDbfs(), 2) + " dBFS";
         out += '\n';
     }
     return out;

@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
 
 #include <cmath>
@@ -22,6 +23,51 @@
 using namespace enginetest;
 
 namespace {
+
+// Where the header says the file ends, and where it does end.
+struct HeaderSizes {
+    qint64 declaredEnd = -1;
+    qint64 fileSize = -1;
+};
+
+HeaderSizes headerSizes(const QString& path, const QString& ext)
+{
+    QFile f(path);
+    HeaderSizes s;
+    if (!f.open(QIODevice::ReadOnly))
+        return s;
+    s.fileSize = f.size();
+    const QByteArray head = f.read(20);
+    if (head.size() < 20)
+        return s;
+    quint64 v = 0;
+    if (ext == ".dsf") { // total file size, little-endian, at offset 12
+        for (int i = 7; i >= 0; --i)
+            v = (v << 8) | quint8(head[12 + i]);
+        s.declaredEnd = qint64(v);
+    } else { // FRM8 size, big-endian, at offset 4, counts from offset 12
+        for (int i = 0; i < 8; ++i)
+            v = (v << 8) | quint8(head[4 + i]);
+        s.declaredEnd = qint64(v) + 12;
+    }
+    return s;
+}
+
+// SIGSTOP is delivered asynchronously: wait until /proc says "T".
+bool waitUntilStopped(pid_t pid)
+{
+    for (int i = 0; i < 2000; ++i) {
+        QFile stat(QString("/proc/%1/stat").arg(pid));
+        if (!stat.open(QIODevice::ReadOnly))
+            return false;
+        const QByteArray line = stat.readAll();
+        const int close = line.lastIndexOf(')');
+        if (close > 0 && close + 2 < line.size() && (line[close + 2] == 'T' || line[close + 2] == 't'))
+            return true;
+        QThread::usleep(500);
+    }
+    return false;
+}
 
 QByteArray fileBytes(const QString& path)
 {
@@ -368,8 +414,27 @@ void EngineHostileTest::killedRunLeavesAValidShorterFile()
            && (t.elapsed() < 2000 || QFileInfo(out).size() < (4 << 20)))
         p.waitForReadyRead(100);
     QVERIFY2(p.state() == QProcess::Running, "the run ended before it could be killed");
-    ::kill(static_cast<pid_t>(p.processId()), SIGKILL);
+    // A kill can land anywhere, and at every instant the header must promise
+    // no more than the file holds. Between commits the file is also exactly
+    // what the header declares: freeze the writer until it is caught in such
+    // a state (a commit takes a millisecond or two), then kill it there.
+    const auto pid = static_cast<pid_t>(p.processId());
+    bool caughtBetweenCommits = false;
+    for (int attempt = 0; attempt < 200 && !caughtBetweenCommits; ++attempt) {
+        ::kill(pid, SIGSTOP);
+        QVERIFY2(waitUntilStopped(pid), "the engine did not stop");
+        const HeaderSizes sizes = headerSizes(out, ext);
+        QVERIFY2(sizes.declaredEnd <= sizes.fileSize,
+                 qPrintable(QString("the header promises %1 bytes, the file has %2").arg(sizes.declaredEnd).arg(sizes.fileSize)));
+        caughtBetweenCommits = sizes.declaredEnd == sizes.fileSize;
+        if (!caughtBetweenCommits) {
+            ::kill(pid, SIGCONT);
+            QTest::qWait(7);
+        }
+    }
+    ::kill(pid, SIGKILL);
     QVERIFY(p.waitForFinished(10000));
+    QVERIFY2(caughtBetweenCommits, "never found the writer between two commits");
     QVERIFY(QFile::exists(out));
     // Our reader takes it as a complete file of what the header declares.
     std::string error;

@@ -1,6 +1,8 @@
 // The restoration options through the real engine: DSD files decoded by
 // ffmpeg and measured, refusals, the log and the listings.
 #include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -22,6 +24,22 @@ QByteArray fileBytes(const QString& path)
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
+// ffmpeg's integrated loudness of a file decoded at `rate`.
+bool ffmpegIntegrated(const QString& path, int rate, double& lufs)
+{
+    QProcess p;
+    p.start("ffmpeg", {"-nostats", "-i", path, "-af", QStringLiteral("aresample=%1,ebur128").arg(rate), "-f", "null",
+                       "-"});
+    if (!p.waitForFinished(120000) || p.exitCode() != 0)
+        return false;
+    const QString err = QString::fromUtf8(p.readAllStandardError());
+    const auto m = QRegularExpression(R"(I:\s+(-?[\d.]+) LUFS)").match(err.mid(err.lastIndexOf("Summary:")));
+    if (!m.hasMatch())
+        return false;
+    lufs = m.captured(1).toDouble();
+    return true;
+}
+
 } // namespace
 
 class TestRestoreCli : public QObject {
@@ -32,6 +50,7 @@ private slots:
     void decrackleInTheDsdFile();
     void cleanToneBitIdentical();
     void masteringRun();
+    void lufsMeasuresAfterRestoration();
     void usageErrors_data();
     void usageErrors();
     void listings();
@@ -140,6 +159,27 @@ void TestRestoreCli::masteringRun()
     for (const char* line : {"  dehum:", "  decrackle:", "  expander: threshold -50.0 dB, ratio 1:2.00",
                              "mastering (pop)", "stereo width 1.15", "eq-bass: low shelf 80 Hz, +1.50 dB"})
         QVERIFY2(text.contains(line), line);
+}
+
+void TestRestoreCli::lufsMeasuresAfterRestoration()
+{
+    // Loud hum under a quiet tone: removing it changes the loudness, so the
+    // target holds for the output only when the measuring pass runs the
+    // restoration too.
+    const long frames = 5 * kRate;
+    const Signal x = humAndTone(kRate, static_cast<std::size_t>(frames), 50, 0.05, 0.05);
+    const QString in = path("hum_lufs.wav");
+    QVERIFY(writePcm(in, kRate, 2, frames, SF_FORMAT_WAV | SF_FORMAT_PCM_24,
+                     [&](long i, int) { return x[static_cast<std::size_t>(i)]; }));
+    double before = 0;
+    QVERIFY(ffmpegIntegrated(in, kRate, before));
+    const QString out = path("hum_lufs.dsf");
+    const RunResult r = runEngine({"--dehum", "--lufs", "-30", "-i", in, out});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    double after = 0;
+    QVERIFY(ffmpegIntegrated(out, 88200, after));
+    qInfo("input %.1f LUFS; --dehum --lufs -30 output %.1f LUFS", before, after);
+    QVERIFY2(std::abs(after + 30) <= 0.15, qPrintable(QString::number(after)));
 }
 
 void TestRestoreCli::usageErrors_data()

@@ -24,11 +24,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     const zuvo::cli::ParsedCommandLine parsed = zuvo::cli::parseCommandLine(args);
     // A parse always ends in a decision: an accepted command line either
-    // asks for information, or names an output and (unless it records from
-    // a device) an input.
+    // asks for information, measures inputs (no output file), or names an
+    // output and (unless it records from a device) an input.
     const auto& o = parsed.options;
     const bool information = o.showHelp || o.showVersion || o.listDevices || o.showCapabilities;
     const bool recording = o.mode == zuvo::cli::Mode::Record;
+    if (!parsed.usageError() && !information && o.analysis.measure) {
+        if (o.inputs.empty())
+            __builtin_trap();
+        return 0;
+    }
     if (!parsed.usageError() && !information && (o.output.empty() || (!recording && o.inputs.empty())))
         __builtin_trap();
     return 0;

@@ -104,6 +104,10 @@ def corpus():
          "--title", "Y", "--track", "3", "--log-file", "l.txt", "--log", "all", "--gui", "o.dsf"],
         ["--help"], ["--version"], ["-i"], ["--mash", "2-1", "--sos-ef", "-i", "x", "y.dsf"],
         ["-i", "x.wav", "--abs", "0.5", "--abs", "1e400", "--taps", "-1", "o.dsf"],
+        ["-i", "x.wav", "--dehum", "--dehum-q", "10", "--decrackle", "--decrackle-threshold", "4", "--expand",
+         "--expand-threshold", "-55", "--expand-ratio", "2", "--expand-knee", "6", "--expand-attack", "5",
+         "--expand-release", "100", "o.dsf"],
+        ["-i", "x.wav", "--master", "--mastering-preset", "jazz", "--music-type", "3", "o.dff"],
     ]):
         cli["args-%02d" % i] = b"\0".join(a.encode() for a in args)
     for i, args in enumerate([

@@ -3,6 +3,7 @@
 #include "dsp/dsd_pipeline.h"
 #include "analysis/analysis_help.h"
 #include "effects/effects_help.h"
+#include "restore/restore_help.h"
 
 namespace zuvo::cli {
 
@@ -72,6 +73,7 @@ void printHelp(std::FILE* out, const char* version)
         "DXD (PCM to high-rate PCM):\n"
         "  --dxd                  resample to 352800 Hz (or --dxd-samplerate N), 24-bit unless --bit/--float\n"
         );
+    restore::printRestoreHelp(out);
     effects::printEffectsHelp(out);
     analysis::printAnalysisHelp(out);
     std::fprintf(out,
@@ -101,7 +103,7 @@ void printHelp(std::FILE* out, const char* version)
         "Control: the line 'stop' on standard input (or the host's control queue) ends the run;\n"
         "  the partial output is finalised and stays valid.\n"
         "\n"
-        "Options for repair, dynamics and OpenCL are refused by this version\n"
+        "Options for spectral noise reduction, dynamics and OpenCL are refused by this version\n"
         "(exit code 2), all of them named in one message.\n"
         "\n"
         "Exit codes:\n"

@@ -7,6 +7,7 @@
 #include "cli/option_values.h"
 #include "cli/unsupported_options.h"
 #include "effects/effect_args.h"
+#include "restore/restore_args.h"
 
 namespace zuvo::cli {
 
@@ -97,6 +98,8 @@ bool Parser::handle(const std::string& a)
         {"--genre", &io::Tags::genre},   {"--year", &io::Tags::year},   {"--comment", &io::Tags::comment},
     };
     if (effects::parseEffectOption(args_, i_, o.effects, result_.errors))
+        return true;
+    if (restore::parseRestoreOption(args_, i_, o.restore, result_.errors))
         return true;
     if (auto t = textTags.find(a); t != textTags.end()) {
         // An empty value is a value: the front-end sends --artist "" for .dff.
@@ -306,6 +309,8 @@ void Parser::validate()
             o.output = positional_.back();
             positional_.pop_back();
         }
+        // Restoration runs in file conversion only.
+        restore::finishRestoreOptions(o.restore, false, result_.errors, result_.warnings);
         const bool otherMode = o.mode != Mode::Forward || !o.inputs.empty() || !positional_.empty();
         record::validateRecordOptions(o.record, o.pdfReportAsked, o.output, otherMode, result_.errors);
         if (o.record.enabled)
@@ -361,6 +366,7 @@ void Parser::validate()
             o.modulator.order = 0;
     }
     effects::validateEffects(o.effects, o.mode == Mode::Forward, result_.errors, result_.warnings);
+    restore::finishRestoreOptions(o.restore, o.mode == Mode::Forward, result_.errors, result_.warnings);
     analysis::validateAnalysis(o.analysis, o.mode == Mode::Forward, o.gain.has_value(), result_.errors,
                                result_.warnings);
 }

@@ -13,6 +13,7 @@
 #include "effects/effect_options.h"
 #include "io/tags.h"
 #include "record/record_options.h"
+#include "restore/restore_options.h"
 
 namespace zuvo::cli {
 
@@ -53,6 +54,7 @@ struct EngineOptions {
     bool dst = false;        // --dst: DST-compressed DSDIFF
     int dstLevel = 1;        // --dst-compression 1..9 (default 1, the fastest); 0 turns --dst off
     effects::EffectOptions effects; // equaliser, tone, channels, stereo image
+    restore::RestoreOptions restore; // dehum, decrackle, expander, mastering
 
     // PCM outputs (reverse and DXD).
     bool flac = false;       // --format flac

@@ -13,17 +13,12 @@ struct Row {
     ValueShape shape;
 };
 
-// Repair stages, analysis extras and OpenCL are not in this version of the
+// Spectral noise reduction, analysis extras and OpenCL are not in this version of the
 // engine.
 const Row kRows[] = {
     // Repair and restoration.
-    {"--dehum", ValueShape::None}, {"--dehum-q", ValueShape::One},
-    {"--decrackle", ValueShape::None}, {"--decrackle-threshold", ValueShape::One},
-    {"--expand", ValueShape::None}, {"--expand-threshold", ValueShape::One},
-    {"--expand-ratio", ValueShape::One}, {"--expand-knee", ValueShape::One},
-    {"--expand-attack", ValueShape::One}, {"--expand-release", ValueShape::One},
     {"--wiener", ValueShape::None}, {"--wiener-floor", ValueShape::One}, {"--wiener-frame", ValueShape::One},
-    {"--master", ValueShape::None}, {"--denoise", ValueShape::One}, {"--keep-harmonics", ValueShape::One},
+    {"--denoise", ValueShape::One}, {"--keep-harmonics", ValueShape::One},
     {"--noise-reduce", ValueShape::One},
     // Noise-shaping variants of another modulator family.
     {"--single-pole", ValueShape::None},
@@ -45,7 +40,6 @@ const Row kRows[] = {
     {"--compand", ValueShape::Three},
     {"--compressor", ValueShape::Five}, {"--soft-limiter", ValueShape::One}, {"--lal", ValueShape::None},
     {"--lal-lookahead", ValueShape::One}, {"--lal-threshold", ValueShape::One}, {"--rate", ValueShape::One},
-    {"--music-type", ValueShape::One}, {"--mastering-preset", ValueShape::One},
     // Channel re-mapping.
     // Containers, transports and hardware.
     {"--opencl", ValueShape::None},

@@ -11,6 +11,8 @@
 #include "io/dsd_writer.h"
 #include "io/path_names.h"
 #include "io/pcm_reader.h"
+#include "restore/mastering_presets.h"
+#include "restore/restore_chain.h"
 #include "run/channel_pool.h"
 #include "run/exit_codes.h"
 #include "run/analysis_report.h"
@@ -129,8 +131,23 @@ int runForward(RunContext& ctx)
                  tags.artist.c_str(), tags.title.c_str(), tags.album.c_str(), tags.genre.c_str(), tags.year.c_str(),
                  tags.track, tags.comment.c_str());
 
+    restore::RestoreChain restoration;
+    if (!restoration.build(o.restore, in.channels, in.sampleRate, error)) {
+        report(ctx, "%s", error.c_str());
+        return kExitUsage;
+    }
+    if (!restoration.empty()) {
+        ctx.log.line("restoration (%d channel(s), %.3f s latency hidden):", in.channels,
+                     static_cast<double>(restoration.latency()) / in.sampleRate);
+        for (const std::string& line : restoration.description())
+            ctx.log.line("%s", line.c_str());
+    }
+    effects::EffectOptions effectOptions = o.effects;
+    const std::string mastering = restore::applyMasteringEffects(o.restore, in.channels, effectOptions);
+    if (!mastering.empty())
+        ctx.log.line("%s", mastering.c_str());
     effects::EffectChain chain;
-    if (!chain.build(o.effects, in.channels, in.sampleRate, error)) {
+    if (!chain.build(effectOptions, in.channels, in.sampleRate, error)) {
         report(ctx, "%s", error.c_str());
         return kExitUsage;
     }
@@ -237,8 +254,8 @@ int runForward(RunContext& ctx)
         }
         if (got == 0)
             break;
-        const auto n = static_cast<std::size_t>(got);
-        if (chain.empty()) {
+        auto n = static_cast<std::size_t>(got);
+        if (chain.empty() && restoration.empty()) {
             pool.run(in.channels, [&](int ci) {
                 const auto c = static_cast<std::size_t>(ci);
                 nonFinite[c] += takeChannel(interleaved, channels, source[c], n, planar[c]);
@@ -260,7 +277,9 @@ int runForward(RunContext& ctx)
                 inputAnalysis.addChannel(c, planar[c].data(), n);
             }
             inputAnalysis.addBlock(planar, n);
-            const std::size_t ready = chain.run(planar, n);
+            if (!restoration.empty())
+                n = restoration.run(planar, n);
+            const std::size_t ready = chain.empty() ? n : chain.run(planar, n);
             pool.run(outChannels, [&](int ci) {
                 const auto c = static_cast<std::size_t>(ci);
                 scaleBlock(planar[c], ready, loudness.gain);
@@ -281,10 +300,20 @@ int runForward(RunContext& ctx)
                                 / static_cast<double>(in.frames), speed);
     }
     if (!stopped) {
+        // The restoration's held-back frames go through the effects first,
+        // then the effects' own.
+        std::vector<std::vector<double>> restored;
+        std::size_t restoredTail = restoration.empty() ? 0 : restoration.drain(restored);
+        if (restoredTail > 0 && !chain.empty())
+            restoredTail = chain.run(restored, restoredTail);
         const std::size_t tail = chain.empty() ? 0 : chain.drain(planar);
         pool.run(outChannels, [&](int ci) {
             const auto c = static_cast<std::size_t>(ci);
             bytes[c].clear();
+            if (restoredTail > 0) {
+                scaleBlock(restored[c], restoredTail, loudness.gain);
+                encoders[c].process(restored[c].data(), restoredTail, bytes[c]);
+            }
             scaleBlock(planar[c], tail, loudness.gain);
             if (tail > 0)
                 encoders[c].process(planar[c].data(), tail, bytes[c]);
@@ -317,6 +346,8 @@ int runForward(RunContext& ctx)
         ctx.log.line("output channel %zu: modulator peak input %.4f, overloads %llu, resets %llu", c + 1, st.peakInput,
                      static_cast<unsigned long long>(st.overloads), static_cast<unsigned long long>(st.resets));
     }
+    for (const std::string& line : restoration.summary())
+        ctx.log.line("%s", line.c_str());
     if (!chain.empty() && chain.limitedSamples() > 0)
         ctx.log.line("safety limiter: %llu sample(s) turned down, by at most %.2f dB",
                      static_cast<unsigned long long>(chain.limitedSamples()), -20 * std::log10(chain.smallestLimiterGain()));

@@ -7,16 +7,20 @@
 #include "effects/effect_chain.h"
 #include "effects/peak_limiter.h"
 #include "io/pcm_reader.h"
+#include "restore/mastering_presets.h"
+#include "restore/restore_chain.h"
 #include "run/exit_codes.h"
 #include "run/pcm_input.h"
 
 namespace zuvo::run {
 
-std::unique_ptr<PreModulatorPath> makeEffectsPath(const cli::EngineOptions& o, int channels, int sampleRate,
-                                                  std::string& error)
+namespace {
+
+std::unique_ptr<PreModulatorPath> effectsOnly(const effects::EffectOptions& fx, int channels, int sampleRate,
+                                              std::string& error)
 {
     auto chain = std::make_shared<effects::EffectChain>();
-    if (!chain->build(o.effects, channels, sampleRate, error))
+    if (!chain->build(fx, channels, sampleRate, error))
         return nullptr;
     auto path = std::make_unique<PreModulatorPath>();
     path->outChannels = chain->outChannels();
@@ -35,6 +39,32 @@ std::unique_ptr<PreModulatorPath> makeEffectsPath(const cli::EngineOptions& o, i
     return path;
 }
 
+} // namespace
+
+std::unique_ptr<PreModulatorPath> makeEffectsPath(const cli::EngineOptions& o, int channels, int sampleRate,
+                                                  std::string& error)
+{
+    // The effects as the conversion builds them: with the mastering set's
+    // EQ and widening.
+    effects::EffectOptions fx = o.effects;
+    restore::applyMasteringEffects(o.restore, channels, fx);
+    auto path = effectsOnly(fx, channels, sampleRate, error);
+    if (!path)
+        return nullptr;
+    // Restoration runs in front of the effects.
+    auto restoration = std::make_shared<restore::RestoreChain>();
+    if (!restoration->build(o.restore, channels, sampleRate, error))
+        return nullptr;
+    if (!restoration->empty()) {
+        PreModulatorPath r;
+        r.outChannels = channels;
+        r.run = [restoration](Planar& p, std::size_t n) { return restoration->run(p, n); };
+        r.drain = [restoration](Planar& p) { return restoration->drain(p); };
+        *path = thenPath(std::move(r), std::move(*path));
+    }
+    return path;
+}
+
 PreModulatorPath thenPath(PreModulatorPath first, PreModulatorPath second)
 {
     PreModulatorPath p;
@@ -49,6 +79,8 @@ PreModulatorPath thenPath(PreModulatorPath first, PreModulatorPath second)
         std::size_t ready = tail > 0 ? b->run(x, tail) : 0;
         Planar rest;
         const std::size_t more = b->drain(rest);
+        if (ready == 0) // nothing came through: take the second's channel count
+            x.assign(rest.size(), std::vector<double>());
         for (std::size_t c = 0; c < x.size() && c < rest.size(); ++c) {
             x[c].resize(ready + more);
             std::copy(rest[c].begin(), rest[c].begin() + static_cast<std::ptrdiff_t>(more), x[c].begin() + static_cast<std::ptrdiff_t>(ready));

@@ -25,8 +25,9 @@ struct PreModulatorPath {
     std::function<std::size_t(Planar&)> drain;
 };
 
-// The effect chain of the options (with its safety limiter) as a path.
-// Empty chain: a pass-through. Null when the chain cannot be built.
+// The restoration chain and the effect chain of the options (with the
+// mastering set's EQ and widening, and the safety limiter) as a path.
+// Nothing on: a pass-through. Null when a chain cannot be built.
 std::unique_ptr<PreModulatorPath> makeEffectsPath(const cli::EngineOptions& options, int channels, int sampleRate,
                                                   std::string& error);
 // `first` then `second` (the second must take first's output channels).

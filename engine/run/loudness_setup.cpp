@@ -33,8 +33,8 @@ LoudnessSetup prepareLoudness(RunContext& ctx, const std::string& input, const s
         setup.exitCode = kExitUsage;
         return setup;
     }
-    // Restoration stages, when present, go in front of the effects here
-    // (thenPath) so that the measurement sees what the modulator sees.
+    // The path holds the restoration stages in front of the effects, so
+    // that the measurement sees what the modulator sees.
     // The interpolation filter then drops what lies above its pass band:
     // the measurement drops it too, or full-band material would land low.
     const dsp::FirOptions& fir = ctx.options.fir;

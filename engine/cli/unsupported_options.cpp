@@ -13,13 +13,9 @@ struct Row {
     ValueShape shape;
 };
 
-// Spectral noise reduction, analysis extras and OpenCL are not in this version of the
-// engine.
+// Another modulator family's noise shaping, some effects and dynamics,
+// analysis extras and OpenCL are not in this version of the engine.
 const Row kRows[] = {
-    // Repair and restoration.
-    {"--wiener", ValueShape::None}, {"--wiener-floor", ValueShape::One}, {"--wiener-frame", ValueShape::One},
-    {"--denoise", ValueShape::One}, {"--keep-harmonics", ValueShape::One},
-    {"--noise-reduce", ValueShape::One},
     // Noise-shaping variants of another modulator family.
     {"--single-pole", ValueShape::None},
     {"--no-ns", ValueShape::None}, {"--quantization-type", ValueShape::One},

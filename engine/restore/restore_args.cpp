@@ -2,6 +2,7 @@
 
 #include "cli/option_values.h"
 #include "restore/mastering_presets.h"
+#include "restore/spectral/spectral_options.h"
 
 namespace zuvo::restore {
 
@@ -43,6 +44,8 @@ struct Reader {
 bool parseRestoreOption(const std::vector<std::string>& args, std::size_t& i, RestoreOptions& o,
                         std::vector<std::string>& errors)
 {
+    if (parseSpectralOption(args, i, o.spectral, o.spectralOn, errors))
+        return true;
     const std::string& a = args[i];
     Reader r{args, i, errors};
     ExpanderOptions& e = o.expand;

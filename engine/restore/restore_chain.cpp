@@ -44,13 +44,13 @@ bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::
                              "of the residual, repaired by least-squares AR interpolation",
                              kCrackleOrder, kCrackleHop, o.decrackle.threshold));
     }
-    // ---- Spectral denoise slot ------------------------------------------
-    // Between the click repair and the expander: a stage with configure(...),
-    // latency() const and process(Planar&, n), in place on all channels with
-    // a constant latency. Add its type to RestoreStage (restore_chain.h),
-    // emplace it here when its options are on, and add a description line;
-    // run(), drain() and latency() need nothing more.
-    // ---------------------------------------------------------------------
+    if (o.spectralOn) {
+        SpectralDenoiser denoiser;
+        if (!denoiser.configure(o.spectral, channels, fs, error))
+            return false;
+        lines_.push_back("  " + denoiser.description());
+        stages_.emplace_back(std::move(denoiser));
+    }
     if (o.expand.on) {
         const ExpanderOptions& e = o.expand;
         stages_.emplace_back(Expander(channels, fs, e.thresholdDb, e.ratio, e.kneeDb, e.attackMs, e.releaseMs));

@@ -22,11 +22,12 @@
 #include "restore/dehum.h"
 #include "restore/expander.h"
 #include "restore/restore_options.h"
+#include "restore/spectral/spectral_denoiser.h"
 
 namespace zuvo::restore {
 
 using Planar = std::vector<std::vector<double>>;
-using RestoreStage = std::variant<Dehum, Decrackle, Expander>;
+using RestoreStage = std::variant<Dehum, Decrackle, SpectralDenoiser, Expander>;
 
 class RestoreChain {
 public:

@@ -1,5 +1,7 @@
 #include "restore/restore_help.h"
 
+#include "restore/spectral/spectral_options.h"
+
 namespace zuvo::restore {
 
 void printRestoreHelp(std::FILE* out)
@@ -28,8 +30,9 @@ void printRestoreHelp(std::FILE* out)
         "  --expand-ratio R       expansion ratio (default 2, 1-20): 10 dB under -> 10 x R dB under\n"
         "  --expand-knee DB       soft-knee width in dB around the threshold (default 6, 0-40)\n"
         "  --expand-attack MS     time constant to open when the level rises (default 5 ms, 0-1000)\n"
-        "  --expand-release MS    time constant to close when it falls (default 100 ms, 0-10000)\n"
-        "  --wiener, --denoise, --keep-harmonics, --noise-reduce: refused by this build\n"
+        "  --expand-release MS    time constant to close when it falls (default 100 ms, 0-10000)\n");
+    std::fputs(spectralHelpText().c_str(), out);
+    std::fprintf(out,
         "Mastering (sets of the stages above; your own options always win):\n"
         "  --master               dehum + decrackle + expander + gentle shelving EQ (only without your\n"
         "                         own EQ/tone options) + stereo widening (stereo inputs, no stereo option)\n"

@@ -3,6 +3,8 @@
 // plain values. `*Given` flags record what the user typed, so that a
 // mastering preset fills in only what was left open.
 
+#include "restore/spectral/spectral_denoiser.h"
+
 namespace zuvo::restore {
 
 struct DehumOptions {
@@ -38,8 +40,10 @@ struct RestoreOptions {
     MasteringPreset preset = MasteringPreset::None; // --mastering-preset / --music-type
     bool presetGiven = false;
     int musicType = 0;                              // --music-type N as given, 0 = absent
+    SpectralConfig spectral;                        // --wiener / --denoise / --noise-reduce
+    bool spectralOn = false;
 
-    bool any() const { return dehum.on || decrackle.on || expand.on; }
+    bool any() const { return dehum.on || decrackle.on || spectralOn || expand.on; }
 };
 
 } // namespace zuvo::restore

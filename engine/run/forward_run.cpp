@@ -11,6 +11,8 @@
 #include "io/dsd_writer.h"
 #include "io/path_names.h"
 #include "io/pcm_reader.h"
+#include "report/run_facts.h"
+#include "report/run_report.h"
 #include "run/channel_pool.h"
 #include "run/exit_codes.h"
 #include "run/levels.h"
@@ -207,6 +209,9 @@ int runForward(RunContext& ctx)
     std::vector<std::vector<std::uint8_t>> bytes(static_cast<std::size_t>(outChannels));
     std::vector<ChannelLevel> levels(channels);
     std::vector<std::uint64_t> nonFinite(channels, 0);
+    std::unique_ptr<report::RunReport> pdf;
+    if (o.pdfReport)
+        pdf = std::make_unique<report::RunReport>(design, outChannels, in.sampleRate, in.frames);
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
     bool stopped = false;
@@ -233,6 +238,8 @@ int runForward(RunContext& ctx)
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), n, bytes[c]);
             });
+            if (pdf)
+                pdf->add(planar, n, bytes);
         } else {
             planar.resize(channels);
             for (std::size_t c = 0; c < channels; ++c) {
@@ -245,6 +252,8 @@ int runForward(RunContext& ctx)
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), ready, bytes[c]);
             });
+            if (pdf)
+                pdf->add(planar, ready, bytes);
         }
         if (!writer->write(bytes, &error)) {
             writer->discard();
@@ -266,6 +275,8 @@ int runForward(RunContext& ctx)
                 encoders[c].process(planar[c].data(), tail, bytes[c]);
             encoders[c].finish(bytes[c]);
         });
+        if (pdf)
+            pdf->add(planar, tail, bytes);
         if (!writer->write(bytes, &error)) {
             writer->discard();
             report(ctx, "%s", error.c_str());
@@ -305,6 +316,8 @@ int runForward(RunContext& ctx)
     if (stopped)
         return reportStopped(ctx);
     detail(ctx, "done: %s", o.output.c_str());
+    if (pdf)
+        pdf->finish(ctx, report::reportFacts(o, in, summary, chain, levels, encoders, seconds));
     return kExitOk;
 }
 

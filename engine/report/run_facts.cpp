@@ -1,0 +1,58 @@
+#include "report/run_facts.h"
+
+#include <cmath>
+
+#include "dsp/modulator.h"
+#include "run/forward_run.h"
+
+namespace zuvo::report {
+
+namespace {
+
+std::string quoted(const std::vector<std::string>& args)
+{
+    std::string out;
+    for (const std::string& a : args) {
+        const bool plain = !a.empty() && a.find_first_of(" \"'\t") == std::string::npos;
+        out += (out.empty() ? "" : " ") + (plain ? a : "\"" + a + "\"");
+    }
+    return out;
+}
+
+} // namespace
+
+RunFacts reportFacts(const cli::EngineOptions& o, const io::PcmStreamInfo& in, const dsp::DesignSummary& summary,
+                     const effects::EffectChain& chain, const std::vector<run::ChannelLevel>& levels,
+                     const std::vector<dsp::ChannelEncoder>& encoders, double seconds)
+{
+    RunFacts f;
+    f.version = ZUVO_VERSION;
+    f.input = o.inputs.empty() ? std::string() : o.inputs.front();
+    f.output = o.output;
+    f.commandLine = quoted(o.arguments);
+    f.inputRate = in.sampleRate;
+    f.dsdMultiple = o.oversampling;
+    f.dsdRate = o.oversampling * dsp::kDsdBaseRate;
+    f.inChannels = in.channels;
+    f.outChannels = int(encoders.size());
+    f.modulator = std::string(run::modulatorName(o.modulator.type)) + ", order "
+                  + std::to_string(o.modulator.order ? o.modulator.order : dsp::detail::defaultOrder(o.modulator.type));
+    f.designText = summary.text;
+    if (!chain.empty())
+        f.effects = chain.description();
+    f.seconds = seconds;
+    f.appliedGainDb = 20 * std::log10(summary.appliedGain);
+    f.passbandRippleDb = summary.passbandRippleDb;
+    f.stopbandAttenuationDb = summary.stopbandAttenuationDb;
+    f.modulatorMaxStableDbfs = summary.modulatorMaxStableDbfs;
+    for (const run::ChannelLevel& l : levels)
+        f.inputLevels.push_back({l.peakDbfs(), l.rmsDbfs()});
+    for (const dsp::ChannelEncoder& e : encoders) {
+        const auto st = e.stats();
+        f.modulators.push_back({st.peakInput, st.overloads, st.resets});
+    }
+    f.noiseProfiling = o.noiseProfiling;
+    return f;
+}
+
+} // namespace zuvo::report

@@ -18,6 +18,17 @@ QStringList parseRefusedOptions(const QByteArray& listing)
     return refused;
 }
 
+QStringList parseSupportedOptions(const QByteArray& listing)
+{
+    QStringList supported;
+    for (const QByteArray& raw : listing.split('\n')) {
+        const QByteArray line = raw.trimmed();
+        if (line.startsWith("supports "))
+            supported.append(QString::fromUtf8(line.mid(9).trimmed()));
+    }
+    return supported;
+}
+
 QStringList refusedOptionsIn(const QStringList& args, const QStringList& refused)
 {
     // Free texts a user types (tags, paths) are values, never options, even
@@ -61,6 +72,7 @@ void EngineCapabilityProbe::start(const QString& enginePath)
     enginePath_ = enginePath;
     known_ = false;
     refused_.clear();
+    supported_.clear();
     delete process_;
     process_ = new QProcess(this);
     process_->setProcessChannelMode(QProcess::SeparateChannels);
@@ -81,8 +93,11 @@ void EngineCapabilityProbe::finish(int exitCode)
         return;
     // An engine without the listing ends with a usage error: nothing is known then.
     if (exitCode == 0) {
-        refused_ = parseRefusedOptions(process_->readAllStandardOutput());
+        const QByteArray listing = process_->readAllStandardOutput();
+        refused_ = parseRefusedOptions(listing);
+        supported_ = parseSupportedOptions(listing);
         known_ = true;
+        emit listingKnown();
     }
 }
 

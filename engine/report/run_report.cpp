@@ -14,7 +14,8 @@ std::string reportPathFor(const std::string& output)
 {
     const std::size_t slash = output.find_last_of('/');
     const std::size_t dot = output.find_last_of('.');
-    const bool hasExtension = dot != std::string::npos && (slash == std::string::npos || dot > slash + 1);
+    const std::size_t name = slash == std::string::npos ? 0 : slash + 1;
+    const bool hasExtension = dot != std::string::npos && dot > name; // ".dsf" alone is a name
     return (hasExtension ? output.substr(0, dot) : output) + ".report.pdf";
 }
 

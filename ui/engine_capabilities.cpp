@@ -59,6 +59,10 @@ EngineCapabilityProbe::EngineCapabilityProbe(QObject* parent)
 
 EngineCapabilityProbe::~EngineCapabilityProbe()
 {
+    // Nothing may reach the window while it is being taken down.
+    blockSignals(true);
+    if (process_)
+        process_->disconnect(this);
     if (process_ && process_->state() != QProcess::NotRunning) {
         process_->kill();
         process_->waitForFinished(1000);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "run/channel_pool.h"
+
 namespace zuvo::report {
 
 double powerDb(double p) { return p > 0 ? 10 * std::log10(p) : -INFINITY; }
@@ -48,15 +50,19 @@ Analysis analyse(const ReportTap& tap, const dsp::ForwardDesign& design)
     const std::size_t outSeg = outputSegment(l.dsdRate);
     const double ratio = double(l.dsdRate) / l.inputRate;
     const auto margin = std::size_t(marginFrames(l));
-    std::vector<double> bits, error;
-    for (int c = 0; c < channels; ++c) {
+    // Channels are independent: each on its own thread, results in order.
+    a.channels.resize(std::size_t(channels));
+    std::vector<double> measured(std::size_t(channels), 0), whole(std::size_t(channels), 0);
+    run::ChannelPool pool(run::ChannelPool::threadsFor(channels));
+    pool.run(channels, [&](int ci) {
+        const auto c = std::size_t(ci);
+        std::vector<double> bits, error;
         WelchAnalyser input(l.inputRate, inSeg), output(l.dsdRate, outSeg), err(l.dsdRate, outSeg);
-        double measured = 0, whole = 0;
         for (std::size_t k = 0; k < a.excerpts; ++k) {
-            const std::vector<double>& x = tap.signal(std::size_t(c), k);
+            const std::vector<double>& x = tap.signal(c, k);
             input.add(x.data(), x.size());
-            whole += double(x.size()) / l.inputRate;
-            unpackBits(tap.bytes(std::size_t(c), k), bits);
+            whole[c] += double(x.size()) / l.inputRate;
+            unpackBits(tap.bytes(c, k), bits);
             const auto frames = std::min(x.size(), std::size_t(double(bits.size()) / ratio));
             if (frames <= 2 * margin)
                 continue;
@@ -71,9 +77,9 @@ Analysis analyse(const ReportTap& tap, const dsp::ForwardDesign& design)
                 error[i - from] = bits[i] - ideal[i];
             output.add(bits.data() + from, end - from);
             err.add(error.data(), error.size());
-            measured += double(end - from) / l.dsdRate;
+            measured[c] += double(end - from) / l.dsdRate;
         }
-        ChannelAnalysis ch;
+        ChannelAnalysis& ch = a.channels[c];
         ch.input = input.result();
         ch.output = output.result();
         ch.error = err.result();
@@ -85,12 +91,9 @@ Analysis analyse(const ReportTap& tap, const dsp::ForwardDesign& design)
             for (int b = 0; b < kNoiseBands; ++b)
                 ch.bandNoiseDbfs.push_back(powerDb(ch.error.bandPower(b == 0 ? 20 : 1000.0 * b, 1000.0 * (b + 1))));
         }
-        a.channels.push_back(std::move(ch));
-        if (c == 0) {
-            a.measuredSeconds = measured;
-            a.excerptSeconds = whole;
-        }
-    }
+    });
+    a.measuredSeconds = measured[0];
+    a.excerptSeconds = whole[0];
     return a;
 }
 

@@ -19,27 +19,23 @@ std::string quoted(const std::vector<std::string>& args)
     return out;
 }
 
-} // namespace
-
-RunFacts reportFacts(const cli::EngineOptions& o, const io::PcmStreamInfo& in, const dsp::DesignSummary& summary,
-                     const effects::EffectChain& chain, const std::vector<run::ChannelLevel>& levels,
+RunFacts commonFacts(const cli::EngineOptions& o, const std::string& input, int rate, int channels,
+                     const dsp::DesignSummary& summary, const std::vector<run::ChannelLevel>& levels,
                      const std::vector<dsp::ChannelEncoder>& encoders, double seconds)
 {
     RunFacts f;
     f.version = ZUVO_VERSION;
-    f.input = o.inputs.empty() ? std::string() : o.inputs.front();
+    f.input = input;
     f.output = o.output;
     f.commandLine = quoted(o.arguments);
-    f.inputRate = in.sampleRate;
+    f.inputRate = rate;
     f.dsdMultiple = o.oversampling;
     f.dsdRate = o.oversampling * dsp::kDsdBaseRate;
-    f.inChannels = in.channels;
+    f.inChannels = channels;
     f.outChannels = int(encoders.size());
     f.modulator = std::string(run::modulatorName(o.modulator.type)) + ", order "
                   + std::to_string(o.modulator.order ? o.modulator.order : dsp::detail::defaultOrder(o.modulator.type));
     f.designText = summary.text;
-    if (!chain.empty())
-        f.effects = chain.description();
     f.seconds = seconds;
     f.appliedGainDb = 20 * std::log10(summary.appliedGain);
     f.passbandRippleDb = summary.passbandRippleDb;
@@ -53,6 +49,26 @@ RunFacts reportFacts(const cli::EngineOptions& o, const io::PcmStreamInfo& in, c
     }
     f.noiseProfiling = o.noiseProfiling;
     return f;
+}
+
+} // namespace
+
+RunFacts reportFacts(const cli::EngineOptions& o, const io::PcmStreamInfo& in, const dsp::DesignSummary& summary,
+                     const effects::EffectChain& chain, const std::vector<run::ChannelLevel>& levels,
+                     const std::vector<dsp::ChannelEncoder>& encoders, double seconds)
+{
+    RunFacts f = commonFacts(o, o.inputs.empty() ? std::string() : o.inputs.front(), in.sampleRate, in.channels,
+                             summary, levels, encoders, seconds);
+    if (!chain.empty())
+        f.effects = chain.description();
+    return f;
+}
+
+RunFacts recordFacts(const cli::EngineOptions& o, const std::string& device, int rate, int channels,
+                     const dsp::DesignSummary& summary, const std::vector<run::ChannelLevel>& levels,
+                     const std::vector<dsp::ChannelEncoder>& encoders, double seconds)
+{
+    return commonFacts(o, "capture device \"" + device + "\"", rate, channels, summary, levels, encoders, seconds);
 }
 
 } // namespace zuvo::report

@@ -11,6 +11,11 @@
 
 namespace zuvo::report {
 
+// A recording: the capture device stands for the input file; no effects.
+RunFacts recordFacts(const cli::EngineOptions& options, const std::string& device, int rate, int channels,
+                     const dsp::DesignSummary& summary, const std::vector<run::ChannelLevel>& levels,
+                     const std::vector<dsp::ChannelEncoder>& encoders, double seconds);
+
 RunFacts reportFacts(const cli::EngineOptions& options, const io::PcmStreamInfo& input, const dsp::DesignSummary& summary,
                      const effects::EffectChain& chain, const std::vector<run::ChannelLevel>& levels,
                      const std::vector<dsp::ChannelEncoder>& encoders, double seconds);

@@ -3,8 +3,18 @@
 #include <algorithm>
 #include <cmath>
 #include <fftw3.h>
+#include <mutex>
 
 namespace zuvo::report {
+
+namespace {
+// FFTW's planner is not thread-safe; its plans run on any thread.
+std::mutex& plannerLock()
+{
+    static std::mutex m;
+    return m;
+}
+} // namespace
 
 double Psd::bandPower(double lo, double hi) const
 {
@@ -34,6 +44,7 @@ WelchAnalyser::WelchAnalyser(double rate, std::size_t segment)
         window_[i] = i0(kBeta * std::sqrt(std::max(0.0, 1 - r * r))) / norm;
         windowPower_ += window_[i] * window_[i];
     }
+    const std::lock_guard<std::mutex> lock(plannerLock());
     in_ = fftw_alloc_real(segment);
     auto* out = fftw_alloc_complex(segment / 2 + 1);
     out_ = out;
@@ -42,6 +53,7 @@ WelchAnalyser::WelchAnalyser(double rate, std::size_t segment)
 
 WelchAnalyser::~WelchAnalyser()
 {
+    const std::lock_guard<std::mutex> lock(plannerLock());
     fftw_destroy_plan(static_cast<fftw_plan>(plan_));
     fftw_free(in_);
     fftw_free(out_);

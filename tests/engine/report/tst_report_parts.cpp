@@ -51,6 +51,7 @@ void ReportPartsTest::excerptsLieInsideAndApart()
     TapLayout l;
     l.inputRate = inputRate;
     l.dsdRate = dsdRate;
+    l.dsdSamplesPerExcerpt = std::size_t(1) << 21; // the counts below are for this span
     const std::vector<ExcerptPlan> plan = planExcerpts(l, total);
     QCOMPARE(int(plan.size()), expected);
     const std::int64_t step = byteAlignedStep(inputRate, dsdRate);

@@ -54,18 +54,23 @@ std::vector<std::pair<double, double>> psdPoints(const Psd& p, double lo, double
     return out;
 }
 
-// y range: the highest point rounded up to 10 dB, `span` dB below it.
+// y range: from the highest point (rounded up to 10 dB) down to at least
+// `span` dB below it, further when a curve goes deeper (never past 320 dB).
 void fitY(Chart& c, double span)
 {
-    double top = -INFINITY;
+    double top = -INFINITY, bottom = INFINITY;
     for (const Series& s : c.series)
         for (const auto& p : s.points)
-            if (std::isfinite(p.second) && p.first >= c.xMin && p.first <= c.xMax)
+            if (std::isfinite(p.second) && p.first >= c.xMin && p.first <= c.xMax) {
                 top = std::max(top, p.second);
+                bottom = std::min(bottom, p.second);
+            }
     if (!std::isfinite(top))
-        top = 0;
+        top = bottom = 0;
     c.yMax = std::ceil(top / 10) * 10 + 10;
-    c.yMin = c.yMax - span;
+    c.yMin = std::max(std::min(c.yMax - span, std::floor((bottom - 5) / 20) * 20), c.yMax - 320);
+    if (c.yMax - c.yMin > 220)
+        c.yStep = 40;
 }
 
 std::string channelName(std::size_t c) { return "channel " + std::to_string(c + 1); }
@@ -125,7 +130,7 @@ void drawFilterPage(cairo_t* cr, const RunFacts& f, const dsp::ForwardDesign& de
     whole.yMax = 10;
     whole.yStep = 20;
     Series s = series("magnitude", 0);
-    constexpr int kPoints = 900;
+    constexpr int kPoints = 500;
     for (int i = 0; i <= kPoints; ++i) {
         const double hz = whole.xMin * std::pow(whole.xMax / whole.xMin, double(i) / kPoints);
         s.points.emplace_back(hz, 20 * std::log10(std::max(dsp::chainMagnitude(design, hz), 1e-12)));
@@ -143,8 +148,8 @@ void drawFilterPage(cairo_t* cr, const RunFacts& f, const dsp::ForwardDesign& de
     pass.xMax = std::min(20000.0, f.inputRate / 2.0);
     Series p = series("magnitude", 0);
     double lo = INFINITY, hi = -INFINITY;
-    for (int i = 0; i <= 400; ++i) {
-        const double hz = 20 + (pass.xMax - 20) * i / 400.0;
+    for (int i = 0; i <= 250; ++i) {
+        const double hz = 20 + (pass.xMax - 20) * i / 250.0;
         const double v = 20 * std::log10(std::max(dsp::chainMagnitude(design, hz), 1e-12));
         lo = std::min(lo, v);
         hi = std::max(hi, v);
@@ -175,7 +180,8 @@ void drawNoisePage(cairo_t* cr, const RunFacts&, const Analysis& a)
         c.series.push_back(std::move(s));
     }
     fitY(c, 60);
-    c.yStep = 10;
+    if (c.yMax - c.yMin <= 80)
+        c.yStep = 10;
     drawChart(cr, kLeft, 40, kWidth, 300, c);
 
     PageText t(cr, 350);

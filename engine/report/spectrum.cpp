@@ -21,7 +21,8 @@ double Psd::bandPower(double lo, double hi) const
     return weightedPower(lo, hi, [](double) { return 1.0; });
 }
 
-WelchAnalyser::WelchAnalyser(double rate, std::size_t segment)
+WelchAnalyser::WelchAnalyser(double rate, std::size_t segment, bool overlap)
+    : hop_(overlap ? segment / 2 : segment)
 {
     psd_.rate = rate;
     psd_.segment = segment;
@@ -62,7 +63,7 @@ WelchAnalyser::~WelchAnalyser()
 void WelchAnalyser::add(const double* x, std::size_t n)
 {
     const std::size_t N = psd_.segment;
-    const std::size_t hop = N / 2;
+    const std::size_t hop = hop_;
     auto* out = static_cast<fftw_complex*>(out_);
     // One-sided density: |X|^2 / (rate * sum w^2), doubled except DC and Nyquist.
     const double scale = 1.0 / (psd_.rate * windowPower_);

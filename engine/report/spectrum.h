@@ -37,7 +37,9 @@ struct Psd {
 // several excerpts, each analysed on its own (no segment spans two).
 class WelchAnalyser {
 public:
-    WelchAnalyser(double rate, std::size_t segment);
+    // `overlap`: segments advance by half their length (more averages from
+    // short signals) instead of a whole length (half the work).
+    WelchAnalyser(double rate, std::size_t segment, bool overlap = true);
     ~WelchAnalyser();
     WelchAnalyser(const WelchAnalyser&) = delete;
     WelchAnalyser& operator=(const WelchAnalyser&) = delete;
@@ -49,6 +51,7 @@ private:
     Psd psd_;
     std::vector<double> window_;
     double windowPower_ = 0;
+    std::size_t hop_ = 0;
     double* in_ = nullptr;
     void* out_ = nullptr;  // fftw_complex*
     void* plan_ = nullptr; // fftw_plan

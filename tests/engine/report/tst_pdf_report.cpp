@@ -67,6 +67,7 @@ private slots:
     void noReportAfterAFailedRun();
     void noReportAfterAStoppedRun();
     void unwritableReportIsAWarning();
+    void noReportForDsdToPcm();
 
 private:
     QString tone(const QString& name, int rate, double seconds);
@@ -277,6 +278,18 @@ void PdfReportTest::unwritableReportIsAWarning()
     QVERIFY(QFileInfo(out).size() > 100000);
     QVERIFY(QFileInfo(dir_.filePath("blocked.report.pdf")).isDir());
     QVERIFY(leftovers(QDir(dir_.path())).isEmpty());
+}
+
+void PdfReportTest::noReportForDsdToPcm()
+{
+    const QString dsf = dir_.filePath("forreverse.dsf");
+    QCOMPARE(runEngine({"-i", tone("t44.wav", 44100, 6), dsf}).exitCode, 0);
+    const QString wav = dir_.filePath("reversed.wav");
+    const RunResult r = runEngine({"--reverse", "-i", dsf, "-pdfrp", wav});
+    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    QVERIFY2(r.err.contains("made for PCM to DSD conversions"), qPrintable(r.err));
+    QVERIFY(QFile::exists(wav));
+    QVERIFY(!QFile::exists(dir_.filePath("reversed.report.pdf")));
 }
 
 QTEST_GUILESS_MAIN(PdfReportTest)

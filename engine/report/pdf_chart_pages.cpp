@@ -75,7 +75,7 @@ void fitY(Chart& c, double span)
 
 std::string channelName(std::size_t c) { return "channel " + std::to_string(c + 1); }
 
-std::string dbfs(double v) { return fixed(v, 2) + " dBFS"; }
+std::string dbfs(double v) { return std::isnan(v) ? "n/a" : fixed(v, 2) + " dBFS"; }
 
 } // namespace
 

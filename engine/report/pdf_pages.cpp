@@ -41,13 +41,24 @@ std::vector<std::string> wrap(cairo_t* cr, const std::string& text, double width
     return lines;
 }
 
-std::string db(double v, int decimals = 2) { return fixed(v, decimals) + " dB"; }
-std::string dbfs(double v, int decimals = 2) { return fixed(v, decimals) + " dBFS"; }
+std::string db(double v, int decimals = 2) { return std::isnan(v) ? "n/a" : fixed(v, decimals) + " dB"; }
+std::string dbfs(double v, int decimals = 2) { return std::isnan(v) ? "n/a" : fixed(v, decimals) + " dBFS"; }
+
+constexpr double kTop = 36, kBottom = kPageHeight - 36;
 
 } // namespace
 
+void PageText::room(double height)
+{
+    if (y_ + height <= kBottom)
+        return;
+    cairo_show_page(cr_);
+    y_ = kTop;
+}
+
 void PageText::heading(const std::string& text)
 {
+    room(24 + 22); // a heading never ends a page alone
     y_ += 8;
     setFont(cr_, 11, true);
     cairo_set_source_rgb(cr_, 0, 0, 0);
@@ -60,6 +71,8 @@ void PageText::line(const std::string& text, double size, bool mono)
     setFont(cr_, size, false, mono);
     cairo_set_source_rgb(cr_, 0, 0, 0);
     for (const std::string& l : wrap(cr_, text, kRight - kLeft)) {
+        room(size * 1.3);
+        setFont(cr_, size, false, mono);
         showText(cr_, kLeft, y_ + size, l);
         y_ += size * 1.3;
     }
@@ -68,11 +81,14 @@ void PageText::line(const std::string& text, double size, bool mono)
 void PageText::field(const std::string& label, const std::string& value)
 {
     constexpr double kValueX = kLeft + 110;
+    room(11);
     setFont(cr_, 8.5, true);
     cairo_set_source_rgb(cr_, 0, 0, 0);
     showText(cr_, kLeft, y_ + 8.5, label);
     setFont(cr_, 8.5);
     for (const std::string& l : wrap(cr_, value, kRight - kValueX)) {
+        room(11);
+        setFont(cr_, 8.5);
         showText(cr_, kValueX, y_ + 8.5, l);
         y_ += 11;
     }
@@ -81,6 +97,7 @@ void PageText::field(const std::string& label, const std::string& value)
 void PageText::table(const std::vector<std::vector<std::string>>& rows, const std::vector<double>& widths)
 {
     for (std::size_t r = 0; r < rows.size(); ++r) {
+        room(r == 0 ? 24 : 11);
         setFont(cr_, 8, r == 0);
         cairo_set_source_rgb(cr_, 0, 0, 0);
         double x = kLeft;

@@ -22,6 +22,8 @@ public:
     double y() const { return y_; }
 
 private:
+    // Starts a new page when `height` more points would not fit.
+    void room(double height);
     cairo_t* cr_;
     double y_;
 };

@@ -40,9 +40,11 @@ Analysis analyse(const ReportTap& tap, const dsp::ForwardDesign& design)
     const TapLayout& l = tap.layout();
     const int channels = std::min(tap.channels(), kMaxAnalysedChannels);
     a.excerpts = tap.excerpts().size();
+    // Excerpts a short file never reached stay empty and do not count.
     std::size_t shortest = SIZE_MAX;
-    for (std::size_t k = 0; k < a.excerpts; ++k)
-        shortest = std::min(shortest, channels > 0 ? tap.signal(0, k).size() : 0);
+    for (std::size_t k = 0; k < a.excerpts && channels > 0; ++k)
+        if (!tap.signal(0, k).empty())
+            shortest = std::min(shortest, tap.signal(0, k).size());
     if (channels == 0 || shortest == SIZE_MAX)
         return a;
 

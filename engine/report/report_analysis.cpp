@@ -9,13 +9,18 @@ namespace zuvo::report {
 
 double powerDb(double p) { return p > 0 ? 10 * std::log10(p) : -INFINITY; }
 
-namespace {
-
-// About 40 Hz per bin at every DSD rate, capped so the largest FFT stays small.
 std::size_t outputSegment(int dsdRate)
 {
     return std::min<std::size_t>(floorPowerOfTwo(std::size_t(dsdRate / 40)), std::size_t(1) << 18);
 }
+
+std::size_t measuredSpan(int dsdRate)
+{
+    return std::max<std::size_t>(std::size_t(1) << 19, 4 * outputSegment(dsdRate));
+}
+
+namespace {
+
 
 std::size_t inputSegment(int inputRate, std::size_t shortestExcerpt)
 {

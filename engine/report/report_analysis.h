@@ -36,6 +36,12 @@ constexpr int kNoiseBands = 20;
 
 Analysis analyse(const ReportTap& tap, const dsp::ForwardDesign& design);
 
+// FFT length of the DSD-rate spectra: about 40 Hz per bin, at most 2^18.
+std::size_t outputSegment(int dsdRate);
+// DSD samples measured per excerpt: few enough that the report stays a small
+// part of the conversion's cost, at least four spectra's worth.
+std::size_t measuredSpan(int dsdRate);
+
 // Power in dBFS (10 log10, full scale 1.0); -inf for none.
 double powerDb(double meanSquare);
 

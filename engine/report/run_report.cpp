@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "report/pdf_pages.h"
+#include "report/report_analysis.h"
 #include "run/run_context.h"
 
 namespace zuvo::report {
@@ -27,6 +28,7 @@ TapLayout layoutFor(const dsp::ForwardDesign& design, int inputRate)
     l.inputRate = inputRate;
     l.dsdRate = dsp::dsdRateHz(design);
     l.settleSeconds = dsp::settleSeconds(design);
+    l.dsdSamplesPerExcerpt = measuredSpan(l.dsdRate);
     return l;
 }
 

@@ -826,6 +826,10 @@
         <translation>إصدار المحرك الحالي لا يدعم تقارير PDF (يتطلب rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>يؤثر فقط على محتوى تقرير PDF ولا يغيّر تدفق بتات الصوت (تم التحقق: ملف dsf متطابق بايتًا ببايت مع تشغيله أو إيقافه)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>تقرير التحليل (--report)</translation>
     </message>

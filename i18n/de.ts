@@ -826,6 +826,10 @@ Deaktivieren Sie sie auf den Parameterseiten und starten Sie erneut (in Presets 
         <translation>Dieser Engine-Build enthält keinen PDF-Bericht (benötigt rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>Betrifft nur den Inhalt des PDF-Berichts, nicht den Audio-Bitstrom (gemessen: die dsf ist mit und ohne Byte für Byte gleich)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>Analysebericht (--report)</translation>
     </message>

@@ -826,6 +826,10 @@ Desactívelas en las páginas de parámetros y vuelva a empezar (pueden quedarse
         <translation>Esta compilación del motor no incluye el informe PDF (requiere rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>Solo afecta al contenido del informe PDF, no al flujo de bits de audio (medido: el dsf es idéntico byte a byte con o sin él)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>Informe de análisis (--report)</translation>
     </message>

@@ -826,6 +826,10 @@ Désactivez-les dans les pages de paramètres puis relancez (elles peuvent reste
         <translation>Cette version du moteur ne prend pas en charge le rapport PDF (nécessite rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>N’affecte que le contenu du rapport PDF, jamais le flux binaire audio (mesuré : le dsf est identique octet par octet avec ou sans)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>Rapport d'analyse (--report)</translation>
     </message>

@@ -826,6 +826,10 @@
         <translation>目前的引擎版本未編譯 PDF 報告功能 (需要 rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>只影響 PDF 報告內容, 不改音訊位元流 (實測: 開關它 dsf 逐位元組相同)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>分析報告 (--report)</translation>
     </message>

@@ -826,6 +826,10 @@
         <translation>現在のエンジンビルドは PDF レポートに対応していません (rsvg+cairo が必要)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>PDF レポートの内容だけに影響し、音声ビットストリームは変えません (実測: オン/オフで dsf はバイト単位で同一)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>解析レポート (--report)</translation>
     </message>

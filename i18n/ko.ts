@@ -826,6 +826,10 @@
         <translation>현재 엔진 빌드는 PDF 보고서를 지원하지 않습니다 (rsvg+cairo 필요)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>PDF 보고서 내용에만 영향을 주며 오디오 비트스트림은 바꾸지 않습니다 (실측: 켜든 끄든 dsf가 바이트 단위로 동일)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>분석 보고서 (--report)</translation>
     </message>

@@ -826,6 +826,10 @@ Wyłącz je na stronach parametrów i zacznij ponownie (w presetach mogą pozost
         <translation>Ta kompilacja silnika nie obsługuje raportów PDF (wymaga rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>Wpływa tylko na treść raportu PDF, nigdy na strumień bitów audio (zmierzono: plik dsf jest identyczny bajt w bajt z nim i bez niego)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>Raport analizy (--report)</translation>
     </message>

@@ -826,6 +826,10 @@ Desative-as nas páginas de parâmetros e inicie novamente (elas podem continuar
         <translation>Esta versão do motor não tem suporte a relatório PDF (requer rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>Afeta apenas o conteúdo do relatório PDF, nunca o fluxo de bits de áudio (medido: o dsf é idêntico byte a byte com ou sem ele)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>Relatório de análise (--report)</translation>
     </message>

@@ -826,6 +826,10 @@
         <translation>Текущая сборка движка не поддерживает PDF-отчёты (нужны rsvg+cairo)</translation>
     </message>
     <message>
+        <source>只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)</source>
+        <translation>Влияет только на содержимое PDF-отчёта, не на аудиопоток битов (проверено: dsf побайтово совпадает с ним и без него)</translation>
+    </message>
+    <message>
         <source>分析报告 (--report)</source>
         <translation>Отчёт анализа (--report)</translation>
     </message>

@@ -18,6 +18,17 @@ QStringList parseRefusedOptions(const QByteArray& listing)
     return refused;
 }
 
+QStringList parseSupportedOptions(const QByteArray& listing)
+{
+    QStringList supported;
+    for (const QByteArray& raw : listing.split('\n')) {
+        const QByteArray line = raw.trimmed();
+        if (line.startsWith("supports "))
+            supported.append(QString::fromUtf8(line.mid(9).trimmed()));
+    }
+    return supported;
+}
+
 QStringList refusedOptionsIn(const QStringList& args, const QStringList& refused)
 {
     // Free texts a user types (tags, paths) are values, never options, even
@@ -48,6 +59,10 @@ EngineCapabilityProbe::EngineCapabilityProbe(QObject* parent)
 
 EngineCapabilityProbe::~EngineCapabilityProbe()
 {
+    // Nothing may reach the window while it is being taken down.
+    blockSignals(true);
+    if (process_)
+        process_->disconnect(this);
     if (process_ && process_->state() != QProcess::NotRunning) {
         process_->kill();
         process_->waitForFinished(1000);
@@ -61,6 +76,7 @@ void EngineCapabilityProbe::start(const QString& enginePath)
     enginePath_ = enginePath;
     known_ = false;
     refused_.clear();
+    supported_.clear();
     delete process_;
     process_ = new QProcess(this);
     process_->setProcessChannelMode(QProcess::SeparateChannels);
@@ -81,8 +97,11 @@ void EngineCapabilityProbe::finish(int exitCode)
         return;
     // An engine without the listing ends with a usage error: nothing is known then.
     if (exitCode == 0) {
-        refused_ = parseRefusedOptions(process_->readAllStandardOutput());
+        const QByteArray listing = process_->readAllStandardOutput();
+        refused_ = parseRefusedOptions(listing);
+        supported_ = parseSupportedOptions(listing);
         known_ = true;
+        emit listingKnown();
     }
 }
 

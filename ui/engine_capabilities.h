@@ -9,6 +9,9 @@ class QProcess;
 
 // The refused option names of a "--capabilities" listing; other lines are ignored.
 QStringList parseRefusedOptions(const QByteArray& listing);
+// The "supports OPTION" names of the same listing: optional features the
+// engine has (an older engine lists none).
+QStringList parseSupportedOptions(const QByteArray& listing);
 
 // The options of `args` that the engine refuses, each once, in argument order;
 // the values of the tag, input and log options are never taken for options.
@@ -26,6 +29,11 @@ public:
     bool waitUntilKnown(int ms);
     bool known() const { return known_; }
     QStringList refused() const { return refused_; }
+    QStringList supported() const { return supported_; }
+
+signals:
+    // The listing became known (emitted once per engine).
+    void listingKnown();
 
 private:
     void finish(int exitCode);
@@ -34,4 +42,5 @@ private:
     QString enginePath_;
     bool known_ = false;
     QStringList refused_;
+    QStringList supported_;
 };

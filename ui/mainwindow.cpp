@@ -31,6 +31,7 @@ MainWindow::MainWindow(QWidget* parent)
     buildUi();
 
     capabilities_ = new EngineCapabilityProbe(this);
+    connect(capabilities_, &EngineCapabilityProbe::listingKnown, this, &MainWindow::applyEngineCapabilities);
     setArgNoteSink([this](const char* line) { appendLog(QString::fromUtf8(line)); });
 
     pollTimer_ = new QTimer(this);

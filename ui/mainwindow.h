@@ -99,6 +99,8 @@ private:
     void shutDownRecording();
     QWidget* createDiagnosticsButtons(QWidget* parent);
     void locateEngine();
+    // Optional features the engine has: enables the boxes that need them.
+    void applyEngineCapabilities();
     void onPollTimer();
     void buildPages();
     void setParametersLocked(bool locked);

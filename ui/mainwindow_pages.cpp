@@ -156,3 +156,8 @@ bool MainWindow::refuseUnsupportedOptions(const ConversionSettings& settings)
             .arg(list)});
     return true;
 }
+
+void MainWindow::applyEngineCapabilities()
+{
+    basic_->setPdfReportSupported(capabilities_->supported().contains(QStringLiteral("-pdfrp")));
+}

@@ -15,6 +15,9 @@ void printCapabilities(std::FILE* out)
     dsp::detail::ModulatorDesign probe;
     if (!dsp::detail::designModulator(dsp::ModulatorType::Mash, 0, 0.5, probe, nullptr))
         std::fprintf(out, "refused --mash\n");
+    // Options a front-end may offer only when the engine says it has them.
+    for (const char* name : {"-pdfrp", "--pdf-report", "--noise-profiling", "--noise-profile"})
+        std::fprintf(out, "supports %s\n", name);
 }
 
 } // namespace zuvo::cli

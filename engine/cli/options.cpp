@@ -148,8 +148,10 @@ bool Parser::handle(const std::string& a)
             else
                 error("--log: '" + s + "' is not one of fir, ns, freq, all");
         }
-    } else if (a == "-pdfrp" || a == "--pdf-report" || a == "--noise-profiling" || a == "--noise-profile") {
-        o.pdfReportAsked = true;
+    } else if (a == "-pdfrp" || a == "--pdf-report") {
+        o.pdfReport = true;
+    } else if (a == "--noise-profiling" || a == "--noise-profile") {
+        o.noiseProfiling = true;
     } else if (a == "--report") {
         o.report = true;
     } else if (a == "--peak") {
@@ -312,7 +314,7 @@ void Parser::validate()
         // Restoration runs in file conversion only.
         restore::finishRestoreOptions(o.restore, false, result_.errors, result_.warnings);
         const bool otherMode = o.mode != Mode::Forward || !o.inputs.empty() || !positional_.empty();
-        record::validateRecordOptions(o.record, o.pdfReportAsked, o.output, otherMode, result_.errors);
+        record::validateRecordOptions(o.record, o.pdfReport, o.output, otherMode, result_.errors);
         if (o.record.enabled)
             o.mode = Mode::Record;
         return;
@@ -373,6 +375,7 @@ void Parser::validate()
 
 ParsedCommandLine Parser::run()
 {
+    result_.options.arguments = args_;
     for (i_ = 0; i_ < args_.size(); ++i_) {
         const std::string& a = args_[i_];
         current_ = a;
@@ -392,8 +395,11 @@ ParsedCommandLine Parser::run()
         result_.unknown.push_back(a);
     }
     validate();
-    if (result_.options.pdfReportAsked)
-        result_.warnings.push_back("this build makes no PDF report (-pdfrp and its analysis options are ignored); the conversion goes on");
+    const EngineOptions& opts = result_.options;
+    if (opts.noiseProfiling && !opts.pdfReport)
+        result_.errors.push_back("--noise-profiling needs --pdf-report (-pdfrp)");
+    else if (opts.pdfReport && (opts.mode == Mode::Reverse || opts.mode == Mode::Dxd))
+        result_.warnings.push_back("the PDF report (-pdfrp) is made for PCM to DSD conversions; this run makes none");
     // The Remez routine we design with keeps its own iteration limit and grid;
     // say so rather than let the values look as if they had been used.
     const dsp::FirOptions& fir = result_.options.fir;

@@ -26,6 +26,7 @@ struct EngineOptions {
     bool listDevices = false;
     bool showCapabilities = false; // --capabilities: list what this build refuses
 
+    std::vector<std::string> arguments; // the command line as given, for the report
     std::vector<std::string> inputs;
     std::string output;
 
@@ -37,7 +38,8 @@ struct EngineOptions {
     bool verbose = false;
     std::string logFile;
     std::vector<std::string> logTopics; // fir, ns, freq, all
-    bool pdfReportAsked = false;        // no PDF report in this build: warn only
+    bool pdfReport = false;             // -pdfrp: PDF analysis report next to the output
+    bool noiseProfiling = false;        // --noise-profiling: noise-floor page in that report
     bool report = false;                // per-channel level summary at the end
     bool reportPeak = false;
     bool reportRms = false;

@@ -83,6 +83,11 @@ int dsdRateHz(const ForwardDesign& design);
 // the modulator. The result is at the DSD rate, delay-compensated and as
 // long as the input (same convention as ChannelEncoder).
 std::vector<double> interpolateOnly(const ForwardDesign& design, const double* in, std::size_t n);
+// Magnitude of the interpolation chain times the modulator's signal transfer
+// at `hz` (gain excluded; 1.0 = flat), and the time the chain's filters need
+// to settle after a start from silence (sum of the stage lengths).
+double chainMagnitude(const ForwardDesign& design, double hz);
+double settleSeconds(const ForwardDesign& design);
 
 // PCM (one channel, full scale = 1.0) -> DSD bytes, MSB first (the earliest
 // bit in bit 7: DSDIFF order; the DSF writer reverses bytes).

@@ -232,6 +232,19 @@ std::shared_ptr<const ForwardDesign> designForward(const ForwardConfig& c, std::
 const DesignSummary& summary(const ForwardDesign& d) { return d.sum; }
 int dsdRateHz(const ForwardDesign& d) { return d.dsdRate; }
 
+double chainMagnitude(const ForwardDesign& d, double hz)
+{
+    return d.chainMagnitude(hz) * std::abs(d.mod.stf(hz / d.dsdRate));
+}
+
+double settleSeconds(const ForwardDesign& d)
+{
+    double t = 0;
+    for (const auto& s : d.stages)
+        t += double(s.h.size()) / s.protoRate();
+    return t;
+}
+
 struct ChannelEncoder::Impl {
     std::shared_ptr<const ForwardDesign> d;
     std::vector<std::unique_ptr<Stage>> stages;

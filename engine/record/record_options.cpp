@@ -126,8 +126,9 @@ void validateRecordOptions(const RecordOptions& o, bool pdfReport, const std::st
     if (o.dsd && o.sampleRate > 0)
         errors.push_back("--record-samplerate applies to PCM recording (--record); --record-dsd takes its rate "
                          "from --oversampling (DSD64 by default)");
-    if (pdfReport)
-        errors.push_back("-pdfrp: this engine makes no PDF report for recordings; leave it out");
+    if (pdfReport && o.dsd)
+        errors.push_back("-pdfrp: --record-dsd stores the device's DSD as it comes, with no modulator to analyse; "
+                         "the PDF report is made for --record (PCM modulated to DSD)");
     if (output.empty())
         errors.push_back("no output file given (the last argument, a .dsf file)");
     else if (output.size() < 4 || lower(output.substr(output.size() - 4)) != ".dsf")

@@ -6,10 +6,13 @@
 #include <atomic>
 #include <chrono>
 #include <cmath>
+#include <memory>
 #include <thread>
 
 #include "alsa_device.h"
 #include "io/dsd_writer.h"
+#include "report/run_facts.h"
+#include "report/run_report.h"
 #include "record/capture_format.h"
 #include "record/capture_queue.h"
 #include "record/capture_session.h"
@@ -118,6 +121,12 @@ int runRecord(run::RunContext& ctx)
     std::vector<std::vector<std::uint8_t>> bytes(channels);
     std::vector<run::ChannelLevel> levels(channels);
     std::string writeError;
+    // With a set duration the report's excerpts spread over it; otherwise
+    // they are taken from the start.
+    std::unique_ptr<report::RunReport> pdf;
+    if (o.pdfReport)
+        pdf = std::make_unique<report::RunReport>(design, static_cast<int>(channels), static_cast<int>(fmt.rate),
+                                                  static_cast<long long>(limit));
     const auto encode = [&](bool last) {
         const std::size_t n = pending.size() / channels;
         pool.run(static_cast<int>(channels), [&](int ci) {
@@ -129,6 +138,8 @@ int runRecord(run::RunContext& ctx)
             if (last)
                 encoders[c].finish(bytes[c]);
         });
+        if (pdf)
+            pdf->add(planar, n, bytes);
         pending.clear();
         return writer->write(bytes, &writeError);
     };
@@ -172,6 +183,9 @@ int runRecord(run::RunContext& ctx)
                o.output.c_str());
         return kExitFailure;
     }
+    if (pdf)
+        pdf->finish(ctx, report::recordFacts(o, r.device, static_cast<int>(fmt.rate), static_cast<int>(channels),
+                                             summary, levels, encoders, seconds));
     return kExitOk;
 }
 

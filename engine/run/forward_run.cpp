@@ -13,6 +13,8 @@
 #include "io/pcm_reader.h"
 #include "restore/mastering_presets.h"
 #include "restore/restore_chain.h"
+#include "report/run_facts.h"
+#include "report/run_report.h"
 #include "run/channel_pool.h"
 #include "run/exit_codes.h"
 #include "run/analysis_report.h"
@@ -237,6 +239,9 @@ int runForward(RunContext& ctx)
     // The measuring pass took the first half of the progress.
     const double progressBase = loudness.measured ? 50.0 : 0.0;
     std::vector<std::uint64_t> nonFinite(channels, 0);
+    std::unique_ptr<report::RunReport> pdf;
+    if (o.pdfReport)
+        pdf = std::make_unique<report::RunReport>(design, outChannels, in.sampleRate, in.frames);
     const auto started = std::chrono::steady_clock::now();
     long long done = 0;
     bool stopped = false;
@@ -269,6 +274,8 @@ int runForward(RunContext& ctx)
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), n, bytes[c]);
             });
+            if (pdf)
+                pdf->add(planar, n, bytes);
         } else {
             planar.resize(channels);
             for (std::size_t c = 0; c < channels; ++c) {
@@ -286,6 +293,8 @@ int runForward(RunContext& ctx)
                 bytes[c].clear();
                 encoders[c].process(planar[c].data(), ready, bytes[c]);
             });
+            if (pdf)
+                pdf->add(planar, ready, bytes);
         }
         if (!writer->write(bytes, &error)) {
             writer->discard();
@@ -319,6 +328,8 @@ int runForward(RunContext& ctx)
                 encoders[c].process(planar[c].data(), tail, bytes[c]);
             encoders[c].finish(bytes[c]);
         });
+        if (pdf)
+            pdf->add(planar, tail, bytes);
         if (!writer->write(bytes, &error)) {
             writer->discard();
             report(ctx, "%s", error.c_str());
@@ -360,6 +371,8 @@ int runForward(RunContext& ctx)
     if (stopped)
         return reportStopped(ctx);
     detail(ctx, "done: %s", o.output.c_str());
+    if (pdf)
+        pdf->finish(ctx, report::reportFacts(o, in, summary, chain, levels, encoders, seconds));
     return kExitOk;
 }
 

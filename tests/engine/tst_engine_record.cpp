@@ -49,6 +49,7 @@ private slots:
     void refusedBeforeAnyOutput_data();
     void refusedBeforeAnyOutput();
     void missingDeviceIsAFailureWithoutOutput();
+    void pdfReportOfARecording();
 
 private:
     QString path(const QString& name) const { return dir_.filePath(name); }
@@ -337,7 +338,7 @@ void EngineRecordTest::refusedBeforeAnyOutput_data()
     QTest::addColumn<QString>("message");
     QTest::newRow("DSD mode unknown") << QStringList{"--record-dsd", "--dsd-mode", "raw"} << "--dsd-mode";
     QTest::newRow("DSD with a PCM rate") << QStringList{"--record-dsd", "--record-samplerate", "96000"} << "--record-samplerate";
-    QTest::newRow("PDF report") << QStringList{"--record", "-pdfrp"} << "-pdfrp";
+    QTest::newRow("PDF report of stored DSD") << QStringList{"--record-dsd", "-pdfrp"} << "-pdfrp";
     QTest::newRow("nine channels") << QStringList{"--record", "--record-channels", "9"} << "--record-channels";
     QTest::newRow("22.05 kHz") << QStringList{"--record", "--record-samplerate", "22050"} << "--record-samplerate";
     QTest::newRow("record options alone") << QStringList{"--record-device", "tone44"} << "need --record";
@@ -370,6 +371,28 @@ void EngineRecordTest::missingDeviceIsAFailureWithoutOutput()
     QCOMPARE(r.exitCode, 1);
     QVERIFY2(r.err.contains("nosuchdevice"), qPrintable(r.err));
     QVERIFY(!QFile::exists(out));
+}
+
+void EngineRecordTest::pdfReportOfARecording()
+{
+    const QString out = path("reported.dsf");
+    const Recording r = record({"--record", "--record-device", "tone44", "--record-duration", "3", "-pdfrp",
+                                "--noise-profiling", out});
+    QVERIFY2(r.exitCode == 0 && !r.crashed, qPrintable(r.err));
+    const QString pdf = path("reported.report.pdf");
+    QVERIFY2(r.err.contains("report: " + pdf), qPrintable(r.err));
+    QProcess info;
+    info.start("pdfinfo", {pdf});
+    QVERIFY(info.waitForFinished(30000));
+    QVERIFY(QString::fromUtf8(info.readAllStandardOutput()).contains(QRegularExpression("Pages:\\s+4\\n")));
+    QProcess text;
+    text.start("pdftotext", {"-layout", pdf, "-"});
+    QVERIFY(text.waitForFinished(30000));
+    const QString t = QString::fromUtf8(text.readAllStandardOutput());
+    for (const char* needle : {"capture device \"tone44\"", "44100 Hz PCM -> DSD64", "Noise per 1 kHz band"})
+        QVERIFY2(t.contains(needle), needle);
+    // The 0.5-peak tone: -6.02 dBFS at the input, in both channels.
+    QVERIFY2(t.contains(QRegularExpression("\\n1\\s+-6.0[12] dBFS")), qPrintable(t.left(3000)));
 }
 
 QTEST_GUILESS_MAIN(EngineRecordTest)

@@ -135,6 +135,12 @@ int fake_engine_run(int argc, char** argv)
         while (std::getline(list, option, ','))
             if (!option.empty())
                 std::printf("refused %s\n", option.c_str());
+        // ZUVO_FAKE_SUPPORTED: options the fake says it offers.
+        const char* supported = std::getenv("ZUVO_FAKE_SUPPORTED");
+        std::istringstream offered(supported ? supported : "");
+        while (std::getline(offered, option, ','))
+            if (!option.empty())
+                std::printf("supports %s\n", option.c_str());
         std::fflush(stdout);
         return 0;
     }

@@ -186,6 +186,14 @@ void BasicPage::onNoiseProfilingClicked(bool on)
     box->open();
 }
 
+void BasicPage::setPdfReportSupported(bool supported)
+{
+    pdfReport_->setEnabled(supported);
+    pdfReport_->setToolTip(
+        supported ? QCoreApplication::translate("MainWindow", "只影响 PDF 报告内容, 不改音频比特流 (实测: 开关它 dsf 逐字节相同)")
+                  : QCoreApplication::translate("MainWindow", "当前引擎构建未编译 PDF 报告 (需要 rsvg+cairo)"));
+}
+
 void BasicPage::applyMasterPreset(const MasterPreset& preset)
 {
     rate_->setCurrentIndex(preset.rateIndex);

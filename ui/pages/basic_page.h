@@ -37,6 +37,8 @@ public:
     static QStringList modulatorOptions();
     static QList<MasterPreset> masterPresets();
     void applyMasterPreset(const MasterPreset& preset);
+    // The PDF report box is usable only with an engine that makes reports.
+    void setPdfReportSupported(bool supported);
 
     bool pcmOutputChosen() const;
     bool dstChecked() const;

@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -25,6 +26,24 @@ QJsonObject probe(const QString& path)
     if (!p.waitForFinished(30000) || p.exitCode() != 0)
         return {};
     return QJsonDocument::fromJson(p.readAllStandardOutput())["streams"].toArray().first().toObject();
+}
+
+// What a command-line tool prints for `args`, or an empty text when it fails.
+QString toolOutput(const QString& program, const QStringList& args)
+{
+    QProcess p;
+    p.start(program, args);
+    if (!p.waitForFinished(30000) || p.exitCode() != 0)
+        return {};
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+QString writePreset(const QTemporaryDir& dir, const QByteArray& json)
+{
+    QFile preset(dir.filePath("preset.json"));
+    if (!preset.open(QIODevice::WriteOnly) || preset.write(json) != json.size())
+        return {};
+    return preset.fileName();
 }
 
 struct AppRun {
@@ -122,6 +141,53 @@ private slots:
                                   "--unpredistortion -pdfrp --absdb 1.500000 --sos-ef "),
                  qPrintable(run.log));
         QCOMPARE(probe(dir.filePath("out/a.dsf"))["codec_name"].toString(), QString("dsd_lsbf_planar"));
+    }
+
+    // The Basic page's denoise tier and report boxes and the Advanced page's
+    // repair rows, as a preset sets them, through the real engine: the run
+    // repairs, reports its levels and writes the PDF report beside the DSD.
+    void restorationAndReportsThroughTheWindow_data() { autorunConvertsIntoAFolder_data(); }
+    void restorationAndReportsThroughTheWindow()
+    {
+        QFETCH(QString, inproc);
+        QTemporaryDir dir;
+        const QString a = dir.filePath("a.wav");
+        QVERIFY(makeTone(a, 44100, "pcm_s24le"));
+        const QString preset = writePreset(dir, R"({"denoise_tier": 2, "report": true, "report_peak": true,
+            "pdfreport": true, "noise_profiling": true,
+            "advanced": {"--dehum": "", "--dehum-q": "10", "--decrackle": "", "--expand": ""}})");
+        QVERIFY(!preset.isEmpty());
+        const AppRun run = runApp(dir, {a}, {{"ZUVO_GUI_INPROC", inproc}, {"ZUVO_AI_PRESET", preset}});
+        QCOMPARE(run.exitCode, 0);
+        const QString& log = run.log;
+        QVERIFY2(log.contains("[log] ✓ a.wav 完成\n"), qPrintable(log));
+        for (const char* expected : {"--dehum --dehum-q 10 --decrackle --expand ", "--denoise standard --keep-harmonics off",
+                                     "--noise-profiling", "channel 1: peak ", "channel 2: dynamic range "})
+            QVERIFY2(log.contains(expected), expected);
+        const QJsonObject stream = probe(dir.filePath("out/a.dsf"));
+        QCOMPARE(stream["codec_name"].toString(), QString("dsd_lsbf_planar"));
+        QVERIFY(qAbs(stream["duration"].toString().toDouble() - 1.5) < 0.02);
+        const QString pdf = dir.filePath("out/a.report.pdf");
+        QVERIFY2(toolOutput("pdfinfo", {pdf}).contains(QRegularExpression("Pages:\\s+4\\n")), qPrintable(pdf));
+        const QString text = toolOutput("pdftotext", {pdf, "-"});
+        QVERIFY2(text.contains("--denoise standard") && text.contains("Noise per 1 kHz band"), qPrintable(text));
+    }
+
+    // "--measure" from the Advanced page: the loudness figures reach the log
+    // and the run counts as done without writing any file.
+    void measureOnlyThroughTheWindow()
+    {
+        QTemporaryDir dir;
+        const QString a = dir.filePath("a.wav");
+        QVERIFY(makeTone(a, 44100, "pcm_s24le"));
+        const QString preset = writePreset(dir, R"({"advanced": {"--measure": ""}})");
+        const AppRun run = runApp(dir, {a}, {{"ZUVO_AI_PRESET", preset}});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.log.contains("[log] file,integrated_lufs,lra_lu,true_peak_dbtp,plr_db\n[log] " + a + ","),
+                 qPrintable(run.log));
+        QVERIFY2(run.log.contains("[log] ✓ a.wav 完成\n"), qPrintable(run.log));
+        QVERIFY(!QFile::exists(dir.filePath("out/a.dsf")));
+        QVERIFY(!QFile::exists(dir.filePath("out/a.report.pdf")));
     }
 
     // While the engine runs inside the program, descriptor 2 belongs to it;

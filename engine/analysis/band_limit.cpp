@@ -3,21 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "dsp/dsp_math.h"
+
 namespace zuvo::analysis {
 
-namespace {
-
-double besselI0(double x)
-{
-    double sum = 1, term = 1;
-    for (int k = 1; k < 40; ++k) {
-        term *= (x / (2 * k)) * (x / (2 * k));
-        sum += term;
-    }
-    return sum;
-}
-
-} // namespace
+using dsp::detail::besselI0;
 
 BandLimit::BandLimit(int sampleRate, double passHz, double stopHz)
 {

@@ -3,19 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "dsp/dsp_math.h"
+
 namespace zuvo::analysis {
 
 namespace {
 
-double besselI0(double x)
-{
-    double sum = 1, term = 1;
-    for (int k = 1; k < 40; ++k) {
-        term *= (x / (2 * k)) * (x / (2 * k));
-        sum += term;
-    }
-    return sum;
-}
+using dsp::detail::besselI0;
 
 constexpr std::size_t kTapsPerPhase = 128;
 constexpr double kKaiserBeta = 9.0;

@@ -1,25 +1,15 @@
 #include "report/number_text.h"
 
-#include <charconv>
 #include <cmath>
+
+#include "analysis/number_text.h"
 
 namespace zuvo::report {
 
 std::string fixed(double value, int decimals)
 {
-    if (std::isnan(value))
-        return "n/a";
-    if (std::isinf(value))
-        return value < 0 ? "-inf" : "inf";
-    if (value == 0)
-        value = 0; // no "-0.00"
-    char buf[64];
-    const auto r = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::fixed, decimals);
-    std::string s(buf, r.ptr);
-    // A value that rounds to zero prints without its sign.
-    if (s[0] == '-' && s.find_first_not_of("-0.") == std::string::npos)
-        s.erase(0, 1);
-    return s;
+    // A figure that could not be measured reads as such, not as "nan".
+    return std::isnan(value) ? "n/a" : analysis::fixed(value, decimals);
 }
 
 std::string hertz(double hz)

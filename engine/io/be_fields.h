@@ -23,7 +23,10 @@ inline void putBE(std::vector<std::uint8_t>& b, std::uint64_t v, int n)
 
 inline void putId(std::vector<std::uint8_t>& b, const char* id)
 {
-    b.insert(b.end(), id, id + 4);
+    // Byte by byte: a range insert into an empty vector trips a false
+    // overflow warning in GCC 12.
+    for (int i = 0; i < 4; ++i)
+        b.push_back(static_cast<std::uint8_t>(id[i]));
 }
 
 } // namespace zuvo::io

@@ -1,24 +1,14 @@
 #include "effects/effect_chain.h"
 
 #include <algorithm>
-#include <cstdarg>
 #include <cmath>
 #include <cstdio>
+
+#include "log_text.h"
 
 namespace zuvo::effects {
 
 namespace {
-
-std::string fmt(const char* f, ...) __attribute__((format(printf, 1, 2)));
-std::string fmt(const char* f, ...)
-{
-    char b[512];
-    va_list ap;
-    va_start(ap, f);
-    std::vsnprintf(b, sizeof b, f, ap);
-    va_end(ap);
-    return b;
-}
 
 bool derivesSurround(const EffectOptions& o, int inChannels)
 {
@@ -69,7 +59,7 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
     for (std::size_t i = 0; i < o.eqBands.size(); ++i) {
         const eq::BandSpec& b = o.eqBands[i];
         const auto kind = eq::bandKindAt(static_cast<int>(i), static_cast<int>(o.eqBands.size()));
-        lines_.push_back(fmt("  eq band %zu: %s %.1f Hz, %+.2f dB, Q %.4f", i + 1,
+        lines_.push_back(logText("  eq band %zu: %s %.1f Hz, %+.2f dB, Q %.4f", i + 1,
                              kind == eq::BandKind::LowShelf    ? "low shelf"
                                  : kind == eq::BandKind::HighShelf ? "high shelf"
                                                                    : "peaking",
@@ -78,28 +68,28 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
     }
     for (const eq::BandSpec& b : o.paramBands) {
         eqSections.push_back(eq::designBand(b, eq::BandKind::Peaking, fs));
-        lines_.push_back(fmt("  equalizer: peaking %.1f Hz, %+.2f dB, %.1f Hz wide (Q %.4f)", b.centerHz, b.gainDb,
+        lines_.push_back(logText("  equalizer: peaking %.1f Hz, %+.2f dB, %.1f Hz wide (Q %.4f)", b.centerHz, b.gainDb,
                              b.bandwidth, eq::bandQ(b, fs)));
         probeHz_.push_back(b.centerHz);
     }
     if (o.eqBass.given) {
         eqSections.push_back(designShelf(eq::BandKind::LowShelf, kEqBassHz, o.eqBass.gainDb, fs));
-        lines_.push_back(fmt("  eq-bass: low shelf %.0f Hz, %+.2f dB", kEqBassHz, o.eqBass.gainDb));
+        lines_.push_back(logText("  eq-bass: low shelf %.0f Hz, %+.2f dB", kEqBassHz, o.eqBass.gainDb));
     }
     if (o.eqPresence.given) {
         eq::BandSpec b{kEqPresenceHz, o.eqPresence.gainDb, 1.0, 'o'};
         eqSections.push_back(eq::designBand(b, eq::BandKind::Peaking, fs));
-        lines_.push_back(fmt("  eq-presence: peaking %.0f Hz, one octave, %+.2f dB", kEqPresenceHz, o.eqPresence.gainDb));
+        lines_.push_back(logText("  eq-presence: peaking %.0f Hz, one octave, %+.2f dB", kEqPresenceHz, o.eqPresence.gainDb));
         probeHz_.push_back(kEqPresenceHz);
     }
     if (o.eqAir.given) {
         eqSections.push_back(designShelf(eq::BandKind::HighShelf, kEqAirHz, o.eqAir.gainDb, fs));
-        lines_.push_back(fmt("  eq-air: high shelf %.0f Hz, %+.2f dB", kEqAirHz, o.eqAir.gainDb));
+        lines_.push_back(logText("  eq-air: high shelf %.0f Hz, %+.2f dB", kEqAirHz, o.eqAir.gainDb));
     }
     const bool anyEq = o.eqGiven || !eqSections.empty();
     const double precut = anyEq ? std::pow(10.0, -o.eqPrecutDb / 20.0) : 1.0;
     if (anyEq && o.eqPrecutDb != 0)
-        lines_.push_back(fmt("  eq pre-cut: -%.2f dB", o.eqPrecutDb));
+        lines_.push_back(logText("  eq pre-cut: -%.2f dB", o.eqPrecutDb));
     if (!eqSections.empty() || precut != 1.0)
         stages_.push_back(FilterStage("equaliser", precut, std::move(eqSections), ins));
 
@@ -107,18 +97,18 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
     std::vector<eq::Biquad> tone;
     if (o.bassDb != 0) {
         tone.push_back(designShelf(eq::BandKind::LowShelf, kBassHz, o.bassDb, fs));
-        lines_.push_back(fmt("  bass: low shelf %.0f Hz, Q 0.7071, %+.2f dB", kBassHz, o.bassDb));
+        lines_.push_back(logText("  bass: low shelf %.0f Hz, Q 0.7071, %+.2f dB", kBassHz, o.bassDb));
     }
     if (o.trebleDb != 0) {
         tone.push_back(designShelf(eq::BandKind::HighShelf, kTrebleHz, o.trebleDb, fs));
-        lines_.push_back(fmt("  treble: high shelf %.0f Hz, Q 0.7071, %+.2f dB", kTrebleHz, o.trebleDb));
+        lines_.push_back(logText("  treble: high shelf %.0f Hz, Q 0.7071, %+.2f dB", kTrebleHz, o.trebleDb));
     }
     if (!tone.empty())
         stages_.push_back(FilterStage("tone", 1.0, std::move(tone), ins));
 
     if (o.dsre && o.dsreMix > 0) {
         stages_.push_back(DsreStage(ins, fs, o.dsreMix));
-        lines_.push_back(fmt("  dsre: mix %.3f, second harmonics of %.0f-%.0f Hz at %.1f dB x mix, above %.0f Hz",
+        lines_.push_back(logText("  dsre: mix %.3f, second harmonics of %.0f-%.0f Hz at %.1f dB x mix, above %.0f Hz",
                              o.dsreMix, kDsreLowHz, kDsreHighHz, 20 * std::log10(kDsreLevel), kDsreOutHz));
     }
 
@@ -128,26 +118,26 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
         std::string roles;
         for (Role r : layoutFor(outs_))
             roles += std::string(roles.empty() ? "" : " ") + roleName(r);
-        lines_.push_back(fmt("  channels: %d -> %d (%s), constant-power fold-down", ins, outs_, roles.c_str()));
+        lines_.push_back(logText("  channels: %d -> %d (%s), constant-power fold-down", ins, outs_, roles.c_str()));
     }
     if (derivesSurround(o, ins)) {
         stages_.push_back(SurroundDeriveStage(outs_, fs));
         maxDelaySeconds_ = std::max(maxDelaySeconds_, kDeriveDelayMs / 1000.0);
-        lines_.push_back(fmt("  surround channels derived: (L-R)/2, %.0f ms later, low-passed at %.0f Hz",
+        lines_.push_back(logText("  surround channels derived: (L-R)/2, %.0f ms later, low-passed at %.0f Hz",
                              kDeriveDelayMs, kDeriveLowpassHz));
     }
 
     // Stereo image.
     if (o.stereo) {
         stages_.push_back(WidthStage(outs_, fs, o.stereoWidth, o.stereoAuto, o.stereoCrossfeed));
-        lines_.push_back(fmt("  stereo: width %s%.3f, crossfeed %.3f (%.0f Hz one-pole, %.1f ms)",
+        lines_.push_back(logText("  stereo: width %s%.3f, crossfeed %.3f (%.0f Hz one-pole, %.1f ms)",
                              o.stereoAuto ? "automatic up to " : "", o.stereoWidth, o.stereoCrossfeed, kCrossfeedHz,
                              kCrossfeedDelayMs));
     }
     if (o.surround.on) {
         stages_.push_back(SurroundStage(outs_, fs, o.surround));
         maxDelaySeconds_ = std::max(maxDelaySeconds_, o.surround.delayMs / 1000.0);
-        lines_.push_back(fmt("  surround: %.0f ms, mix %.0f %%, %s, balance %+.0f", o.surround.delayMs,
+        lines_.push_back(logText("  surround: %.0f ms, mix %.0f %%, %s, balance %+.0f", o.surround.delayMs,
                              o.surround.mixPercent, o.surround.side ? "side signal" : "opposite channel",
                              o.surround.balance));
     }
@@ -160,7 +150,7 @@ bool EffectChain::build(const EffectOptions& o, int ins, double fs, std::string&
         stages_.push_back(HrtfStage(outs_, fs, set, o.hrtf, o.hrtfMix, o.hrtfSideMix, o.hrtfDepth));
         const HrtfGeometry g = hrtfGeometry(o.hrtfDepth);
         const char* mode = o.hrtf == HrtfMode::Mono ? "mono" : o.hrtf == HrtfMode::MidSide ? "ms" : "stereo";
-        lines_.push_back(fmt("  hrtf: %s, set %s (%d taps at %.0f Hz), speakers at +-%.0f deg, centre at %.0f deg "
+        lines_.push_back(logText("  hrtf: %s, set %s (%d taps at %.0f Hz), speakers at +-%.0f deg, centre at %.0f deg "
                              "azimuth %.0f deg elevation, mix %.2f, side mix %.2f, block %zu",
                              mode, set.path().c_str(), set.length(), fs, g.speakerAzimuth, g.centreAzimuth,
                              g.centreElevation, o.hrtfMix, o.hrtfSideMix, kHrtfBlock));
@@ -239,7 +229,7 @@ void EffectChain::addLimiter(double ceiling)
 {
     stages_.push_back(PeakLimiter(outs_, fs_, ceiling));
     toDrop_ = latency();
-    lines_.push_back(fmt("  safety limiter: ceiling %+.2f dB (0.25 dB above the sine bound), true-peak estimate, %.1f ms look-ahead, "
+    lines_.push_back(logText("  safety limiter: ceiling %+.2f dB (0.25 dB above the sine bound), true-peak estimate, %.1f ms look-ahead, "
                          "%.0f ms release", 20 * std::log10(ceiling), kLimiterLookaheadMs, kLimiterReleaseMs));
 }
 

@@ -1,25 +1,10 @@
 #include "restore/restore_chain.h"
 
 #include <cmath>
-#include <cstdarg>
-#include <cstdio>
+
+#include "log_text.h"
 
 namespace zuvo::restore {
-
-namespace {
-
-std::string fmt(const char* f, ...) __attribute__((format(printf, 1, 2)));
-std::string fmt(const char* f, ...)
-{
-    char b[512];
-    va_list ap;
-    va_start(ap, f);
-    std::vsnprintf(b, sizeof b, f, ap);
-    va_end(ap);
-    return b;
-}
-
-} // namespace
 
 bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::string& error)
 {
@@ -32,7 +17,7 @@ bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::
     }
     if (o.dehum.on) {
         stages_.emplace_back(Dehum(channels, fs, o.dehum.q));
-        lines_.push_back(fmt("  dehum: 50/60 Hz found from the first %.0f s, notches at the fundamental and "
+        lines_.push_back(logText("  dehum: 50/60 Hz found from the first %.0f s, notches at the fundamental and "
                              "harmonics up to %d x (below %.0f Hz), each mains/Q wide (%.2f Hz at 50 Hz, Q %.2f "
                              "at the fundamental)",
                              kDehumDetectSeconds, kDehumHarmonics, kDehumMaxFraction * fs, 50.0 / o.dehum.q,
@@ -40,7 +25,7 @@ bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::
     }
     if (o.decrackle.on) {
         stages_.emplace_back(Decrackle(channels, o.decrackle.threshold));
-        lines_.push_back(fmt("  decrackle: AR order %d over %zu-sample blocks, clicks above %.2f x robust sigma "
+        lines_.push_back(logText("  decrackle: AR order %d over %zu-sample blocks, clicks above %.2f x robust sigma "
                              "of the residual, repaired by least-squares AR interpolation",
                              kCrackleOrder, kCrackleHop, o.decrackle.threshold));
     }
@@ -54,7 +39,7 @@ bool RestoreChain::build(const RestoreOptions& o, int channels, double fs, std::
     if (o.expand.on) {
         const ExpanderOptions& e = o.expand;
         stages_.emplace_back(Expander(channels, fs, e.thresholdDb, e.ratio, e.kneeDb, e.attackMs, e.releaseMs));
-        lines_.push_back(fmt("  expander: threshold %.1f dB, ratio 1:%.2f, knee %.1f dB, attack %.1f ms, release "
+        lines_.push_back(logText("  expander: threshold %.1f dB, ratio 1:%.2f, knee %.1f dB, attack %.1f ms, release "
                              "%.1f ms, linked %.0f ms RMS detector",
                              e.thresholdDb, e.ratio, e.kneeDb, e.attackMs, e.releaseMs, kExpanderRmsMs));
     }
@@ -141,14 +126,14 @@ std::vector<std::string> RestoreChain::summary() const
     std::vector<std::string> out;
     for (const RestoreStage& s : stages_) {
         if (const auto* d = std::get_if<Dehum>(&s))
-            out.push_back(fmt("dehum: mains %.3f Hz (energy at 50/100/150 Hz %.3g, at 60/120/180 Hz %.3g), %zu notches",
+            out.push_back(logText("dehum: mains %.3f Hz (energy at 50/100/150 Hz %.3g, at 60/120/180 Hz %.3g), %zu notches",
                               d->guess().mainsHz, d->guess().energy50, d->guess().energy60, d->notchCount()));
         else if (const auto* c = std::get_if<Decrackle>(&s))
-            out.push_back(fmt("decrackle: %llu click(s) repaired, %llu sample(s) interpolated",
+            out.push_back(logText("decrackle: %llu click(s) repaired, %llu sample(s) interpolated",
                               static_cast<unsigned long long>(c->clicks()),
                               static_cast<unsigned long long>(c->repairedSamples())));
         else if (const auto* e = std::get_if<Expander>(&s))
-            out.push_back(fmt("expander: deepest gain %.1f dB", e->smallestGainDb()));
+            out.push_back(logText("expander: deepest gain %.1f dB", e->smallestGainDb()));
     }
     return out;
 }
